@@ -1,0 +1,248 @@
+// Buffers. Contract: co_buffer.h.
+
+#define CO_UNIT "source/co/co_buffer"
+
+#include <algorithm>
+#include <co/co_assert.hpp>
+#include <co/co_buffer.hpp>
+#include <co/co_family.hpp>
+#include <co/co_memory.h>
+#include <co/co_string.hpp>
+#include <cstring>
+
+static uint8_t *inlineBytes(coBuffer *buffer) { return reinterpret_cast<uint8_t *>(buffer + 1); }
+
+static void freeBytes(coBuffer *buffer) {
+    if (buffer->bytes != inlineBytes(buffer)) coMemFree(buffer->bytes);
+}
+
+static void freeBuffer(coObj *obj) {
+    auto *buffer = static_cast<coBuffer *>(obj);
+    freeBytes(buffer);
+    buffer->bytes = co::released<uint8_t>();
+}
+
+static int compareBuffers(coObj const *objA, coObj const *objB) {
+    // Characters of a string_view compare as unsigned bytes.
+    int const order = static_cast<coBuffer const *>(objA)->view().compare(static_cast<coBuffer const *>(objB)->view());
+    return (order > 0) - (order < 0);
+}
+
+static coString *stringOfBuffer(coObj const *obj) {
+    auto const *buffer = static_cast<coBuffer const *>(obj);
+    coString *text = co::makeString(2 * buffer->length);
+    coChar *digit = text->chars();
+    for (int64_t i = 0; i < buffer->length; i++) {
+        uint8_t const byte = buffer->begin()[i];
+        *digit++ = U"0123456789abcdef"[byte >> 4];
+        *digit++ = U"0123456789abcdef"[byte & 0xF];
+    }
+    text->length = digit - text->chars();
+    return text;
+}
+
+constinit coSort const co___sort_CO_BUFFER{&co___sort_CO_SORT, &co___module,   "CO_BUFFER",
+                                           freeBuffer,         compareBuffers, stringOfBuffer};
+
+CO_DEFINE_FAMILY(coBuffer, co___sort_CO_BUFFER)
+
+static void copyBytes(uint8_t *to, uint8_t const *from, int64_t count) {
+    if (count > 0) std::memcpy(to, from, static_cast<size_t>(count));
+}
+
+coBuffer *co::makeBuffer(int64_t capacity) {
+    auto const size = static_cast<int64_t>(sizeof(coBuffer)) + capacity;
+    auto *buffer = static_cast<coBuffer *>(allocateObject(size, &co___sort_CO_BUFFER));
+    buffer->bytes = inlineBytes(buffer);
+    buffer->head = 0;
+    buffer->length = 0;
+    buffer->capacity = capacity;
+    return buffer;
+}
+
+static coBuffer *bufferOf(uint8_t const *bytes, int64_t count, int64_t capacity) {
+    coBuffer *buffer = co::makeBuffer(capacity);
+    copyBytes(buffer->bytes, bytes, count);
+    buffer->length = count;
+    return buffer;
+}
+
+// Reading.
+
+struct coBuffer *coBufferCreate(void) {
+    return co::makeBuffer(0);
+}
+
+struct coBuffer *coBufferCreateFromBytesCopy(uint8_t const *bytes, int64_t count) {
+    CO_ASSERT_TEXT(bytes, count);
+    return bufferOf(bytes, count, count);
+}
+
+int64_t coBufferLength(struct coBuffer const *buffer) {
+    CO_ASSERT_GIVEN(buffer);
+    return buffer->length;
+}
+
+uint8_t const *coBufferBacking(struct coBuffer const *buffer) {
+    CO_ASSERT_GIVEN(buffer);
+    return buffer->begin();
+}
+
+// Whether the dropped room before the bytes may be taken back by moving them: each dropped byte pays for the move of
+// one that is left.
+static bool canMoveToFront(coBuffer const *buffer) { return buffer->head >= buffer->length; }
+
+int64_t coBufferSpace(struct coBuffer const *buffer) {
+    CO_ASSERT_GIVEN(buffer);
+    if (!co::isUnique(buffer)) return 0; // to be copied first
+    return buffer->capacity - buffer->length - (canMoveToFront(buffer) ? 0 : buffer->head);
+}
+
+static void assertRange(coBuffer const *buffer, int64_t offset, int64_t count) {
+    CO_ASSERT(offset >= 0 && offset <= buffer->length, "offset >= 0 && offset <= coBufferLength( buffer )");
+    CO_ASSERT(count >= 0 && count <= buffer->length - offset,
+              "count >= 0 && count <= coBufferLength( buffer ) - offset");
+}
+
+struct coBuffer *coBufferRead(struct coBuffer const *buffer, int64_t offset, int64_t count) {
+    CO_ASSERT_GIVEN(buffer);
+    assertRange(buffer, offset, count);
+    return bufferOf(buffer->begin() + offset, count, count);
+}
+
+// Appending.
+
+static void moveToFront(coBuffer *buffer) {
+    copyBytes(buffer->bytes, buffer->begin(), buffer->length); // no overlap: there is as much room as there are bytes
+    buffer->head = 0;
+}
+
+static void grow(coBuffer *buffer, int64_t capacity) {
+    auto *bytes = static_cast<uint8_t *>(coMemAllocN(capacity, 1));
+    copyBytes(bytes, buffer->begin(), buffer->length);
+    freeBytes(buffer);
+    buffer->bytes = bytes;
+    buffer->head = 0;
+    buffer->capacity = capacity;
+}
+
+// Room for half as much again, so that an addition is amortised constant; none to spare where nothing is added.
+static int64_t capacityFor(int64_t length, int64_t more) {
+    return more == 0 ? length : std::max(length + more, length + length / 2 + 32);
+}
+
+uint8_t *co::appendSpace(coBuffer **reference, int64_t more) {
+    coBuffer *buffer = *reference;
+    if (!isUnique(buffer)) {
+        *reference = bufferOf(buffer->begin(), buffer->length, capacityFor(buffer->length, more));
+        release(buffer);
+        buffer = *reference;
+    } else if (buffer->capacity - buffer->head - buffer->length < more) {
+        if (canMoveToFront(buffer) && buffer->capacity - buffer->length >= more)
+            moveToFront(buffer);
+        else
+            grow(buffer, capacityFor(buffer->length, more));
+    }
+    return buffer->bytes + buffer->head + buffer->length;
+}
+
+// The bytes may be some of the buffer's own: these are found again, by their offset, where the buffer has moved to.
+void co::append(coBuffer **buffer, std::string_view bytes) {
+    auto const *source = reinterpret_cast<uint8_t const *>(bytes.data());
+    auto const count = static_cast<int64_t>(bytes.size());
+    auto const offset = reinterpret_cast<uintptr_t>(source) - reinterpret_cast<uintptr_t>((*buffer)->begin());
+    bool const own = offset < static_cast<uintptr_t>((*buffer)->length);
+    uint8_t *room = appendSpace(buffer, count);
+    copyBytes(room, own ? (*buffer)->begin() + offset : source, count);
+    (*buffer)->length += count;
+}
+
+void coBufferAppend(struct coBuffer **buffer, struct coBuffer const *other) {
+    CO_ASSERT_REFERENCE(buffer);
+    CO_ASSERT_GIVEN(other);
+    co::append(buffer, other->view());
+}
+
+void coBufferAppendByte(struct coBuffer **buffer, uint8_t byte) {
+    CO_ASSERT_REFERENCE(buffer);
+    *co::appendSpace(buffer, 1) = byte;
+    (*buffer)->length++;
+}
+
+void coBufferAppendBytes(struct coBuffer **buffer, uint8_t const *bytes, int64_t count) {
+    CO_ASSERT_REFERENCE(buffer);
+    CO_ASSERT_TEXT(bytes, count);
+    co::append(buffer, {reinterpret_cast<char const *>(bytes), static_cast<size_t>(count)});
+}
+
+static void assertRangeOfOther(coBuffer const *other, int64_t offset, int64_t count) {
+    CO_ASSERT_GIVEN(other);
+    CO_ASSERT(offset >= 0 && offset <= other->length, "offset >= 0 && offset <= coBufferLength( other )");
+    CO_ASSERT(count >= 0 && count <= other->length - offset, "count >= 0 && count <= coBufferLength( other ) - offset");
+}
+
+static void assertCountOfOther(coBuffer const *other, int64_t count) {
+    CO_ASSERT_GIVEN(other);
+    CO_ASSERT(count >= 0 && count <= other->length, "count >= 0 && count <= coBufferLength( other )");
+}
+
+static std::string_view part(coBuffer const *buffer, int64_t offset, int64_t count) {
+    return buffer->view().substr(static_cast<size_t>(offset), static_cast<size_t>(count));
+}
+
+void coBufferAppendInner(struct coBuffer **buffer, struct coBuffer const *other, int64_t offset, int64_t count) {
+    CO_ASSERT_REFERENCE(buffer);
+    assertRangeOfOther(other, offset, count);
+    co::append(buffer, part(other, offset, count));
+}
+
+void coBufferAppendLeading(struct coBuffer **buffer, struct coBuffer const *other, int64_t count) {
+    CO_ASSERT_REFERENCE(buffer);
+    assertCountOfOther(other, count);
+    co::append(buffer, part(other, 0, count));
+}
+
+void coBufferAppendTrailing(struct coBuffer **buffer, struct coBuffer const *other, int64_t count) {
+    CO_ASSERT_REFERENCE(buffer);
+    assertCountOfOther(other, count);
+    co::append(buffer, part(other, other->length - count, count));
+}
+
+void coBufferAppendOuter(struct coBuffer **buffer, struct coBuffer const *other, int64_t offset, int64_t count) {
+    CO_ASSERT_REFERENCE(buffer);
+    assertRangeOfOther(other, offset, count);
+    bool const own = other == *buffer;
+    int64_t const length = other->length;
+    int64_t const rest = length - offset - count;
+    uint8_t *room = co::appendSpace(buffer, offset + rest);
+    uint8_t const *source = own ? (*buffer)->begin() : other->begin();
+    copyBytes(room, source, offset);
+    copyBytes(room + offset, source + length - rest, rest);
+    (*buffer)->length += offset + rest;
+}
+
+// Dropping.
+
+// A shared buffer is left to its other holders, and only what is kept is copied.
+static void keep(coBuffer **reference, int64_t offset, int64_t count) {
+    coBuffer *buffer = *reference;
+    if (!co::isUnique(buffer)) {
+        *reference = bufferOf(buffer->begin() + offset, count, count);
+        co::release(buffer);
+        return;
+    }
+    buffer->head = count == 0 ? 0 : buffer->head + offset;
+    buffer->length = count;
+}
+
+void coBufferDelLeading(struct coBuffer **buffer, int64_t count) {
+    CO_ASSERT_REFERENCE(buffer);
+    CO_ASSERT(count >= 0 && count <= (*buffer)->length, "count >= 0 && count <= coBufferLength( *buffer )");
+    keep(buffer, count, (*buffer)->length - count);
+}
+
+void coBufferDelOuter(struct coBuffer **buffer, int64_t offset, int64_t count) {
+    CO_ASSERT_REFERENCE(buffer);
+    assertRange(*buffer, offset, count);
+    keep(buffer, offset, count);
+}

@@ -1,0 +1,21 @@
+// A hash of texts that nobody outside of the process can foresee: SipHash-1-3 (Aumasson and Bernstein).
+#pragma once
+
+#include <co/co_string.hpp>
+
+namespace co {
+
+struct HashKey {
+    uint64_t first;
+    uint64_t second;
+};
+
+// SipHash-1-3 of the code points, each as four bytes, the least significant one first.
+uint64_t sipHash(HashKey key, Chars text);
+
+// The key that this process has drawn at random; the same at every call.
+HashKey processHashKey();
+
+inline uint64_t hash(Chars text) { return sipHash(processHashKey(), text); }
+
+} // namespace co

@@ -1,0 +1,131 @@
+// The object header, sort records and modules as the library's own units see them, and counting.
+#pragma once
+
+#include <atomic>
+#include <co/co_object.h>
+#include <utility>
+
+struct coObj {
+    coSort const *itsSort;
+    mutable std::atomic<int64_t> count;
+};
+
+// A sort record is an object itself: statically initialised, never released.
+struct coSort : coObj {
+    coModule const *module;
+    char const *name;
+    void (*freeFunc)(coObj *);
+    int (*compareFunc)(coObj const *, coObj const *);
+    coString *(*toStringFunc)(coObj const *);
+    void const *reserved[5];
+
+    constexpr coSort(coSort const *sortOfSorts, coModule const *owner, char const *sortName, void (*free)(coObj *),
+                     int (*compare)(coObj const *, coObj const *), coString *(*toString)(coObj const *))
+        : coObj{sortOfSorts, 1}, module(owner), name(sortName), freeFunc(free), compareFunc(compare),
+          toStringFunc(toString), reserved{} {}
+};
+
+struct coModuleRecord {
+    int64_t format;
+    char const *productName;
+    char const *productFamily;
+    int64_t releaseMajor;
+    int64_t releaseMinor;
+    int64_t releasePatch;
+    char const *buildTime;
+    char const *vendorName;
+    char const *legalNotice;
+    char const *name;
+    char const *description;
+    char const *version;
+    char const *dependencies;
+    char const *end;
+};
+
+struct coModule : coObj {
+    coModuleRecord const *record;
+    bool (*startup)();
+    void *unused;
+    void (*shutdown)();
+    void *reserved[4];
+    int64_t loads;
+
+    constexpr coModule(coSort const *sortOfModules, coModuleRecord const *moduleRecord, bool (*start)(), void (*stop)())
+        : coObj{sortOfModules, 1}, record(moduleRecord), startup(start), unused(nullptr), shutdown(stop), reserved{},
+          loads(0) {}
+};
+
+extern "C" {
+extern struct coModule co___module;
+extern struct coSort const co___sort_CO_SORT;
+extern struct coSort const co___sort_CO_MODULE;
+}
+
+namespace co {
+
+// The pattern that is left in every slot after its reference is given up, so that a later use faults at once.
+template <class T> T *released() {
+    return reinterpret_cast<T *>(~std::uintptr_t{0}); // NOLINT(performance-no-int-to-ptr)
+}
+
+// Every object begins with its header, also where its type is only declared.
+template <class T> coObj *header(T const *obj) { return reinterpret_cast<coObj *>(const_cast<T *>(obj)); }
+
+// The count of an object that lives as long as the library is loaded. It always reads as shared and is never written, so
+// that threads don't fight over the cache line of an object that all of them use.
+inline constexpr int64_t immortal = int64_t{1} << 62;
+
+template <class T> bool isImmortal(T const *obj) {
+    return header(obj)->count.load(std::memory_order_relaxed) >= immortal;
+}
+
+// A locked instruction is a full fence on x86-64; elsewhere sequential consistency asks for what is needed.
+template <class T> void retain(T const *obj) {
+    if (!isImmortal(obj)) header(obj)->count.fetch_add(1, std::memory_order_seq_cst);
+}
+
+// Who reads a count of 1 holds the last reference: nobody else can raise it, and no atomic write is needed.
+template <class T> bool isUnique(T const *obj) { return header(obj)->count.load(std::memory_order_seq_cst) == 1; }
+
+template <class T> void release(T *obj) {
+    if (isUnique(obj) || (!isImmortal(obj) && header(obj)->count.fetch_sub(1, std::memory_order_seq_cst) == 1))
+        co___ObjFree(header(obj));
+}
+
+// Getters hand out references to objects that they see as const: sharing is not a change.
+template <class T> T *retained(T const *obj) {
+    if (obj) retain(obj);
+    return const_cast<T *>(obj);
+}
+
+template <class T> int compare(T const *a, T const *b) { return a == b ? 0 : coObjCompare(header(a), header(b)); }
+
+// Memory for an object with its header set; the rest is left as it comes.
+void *allocateObject(int64_t size, coSort const *sort);
+
+// An owned reference, given up at the end of the scope unless taken. For codecs, which leave by many ways.
+template <class T> class Ref {
+public:
+    Ref() = default;
+    explicit Ref(T *owned) : obj(owned) {}
+    Ref(Ref &&other) noexcept : obj(other.take()) {}
+    Ref &operator=(Ref &&other) noexcept {
+        reset(other.take());
+        return *this;
+    }
+    ~Ref() { reset(nullptr); }
+
+    explicit operator bool() const { return obj; }
+    T *get() const { return obj; }
+    T *operator->() const { return obj; }
+    T **address() { return &obj; } // for setters, which may replace the object
+    T *take() { return std::exchange(obj, nullptr); }
+    void reset(T *owned) {
+        if (T *old = std::exchange(obj, owned)) co::release(old);
+    }
+
+private:
+    T *obj = nullptr;
+};
+
+} // namespace co

@@ -1,0 +1,62 @@
+#include <co/co_hash.hpp>
+#include <support/text.hpp>
+
+namespace {
+
+// Computed by another implementation of SipHash-1-3, of the texts' bytes in UTF-32LE.
+TEST(Hash, IsSipHash13) {
+    co::HashKey const none{0, 0};
+    co::HashKey const some{0xAED66CE184BE2329, 0xEBE9BBF1F1499052};
+    co::HashKey const another{0x8D85BE4C852E2B23, 0x778977FB98719852};
+    struct {
+        co::HashKey key;
+        co::Chars text;
+        uint64_t expected;
+    } const rows[] = {
+        {none, U"a", 0x63280EE96B7CC407},
+        {none, U"ab", 0x2841C20DE629F5FD},
+        {none, U"abc", 0x1410D029FE9AD8C5},
+        {none, U"to", 0xE303CB9D42AB07B1},
+        {none, U"received", 0x64C3DE2E263CF90B},
+        {none, U"\U0001F600", 0xCEEBAEF96CA4072C},
+        {none, U"日本語テキスト", 0xA4EEE7A388275BF5},
+        {some, U"a", 0x72D60BF2CE398B7B},
+        {some, U"ab", 0xBD6B96E0154F9B3F},
+        {some, U"abc", 0x053F75F8D6594D62},
+        {some, U"received", 0x679F349ECE8E94EF},
+        {some, U"\U0010FFFF\U0010FFFF\U0010FFFF\U0010FFFF\U0010FFFF", 0xF104D0EA5EFE46BF},
+        {another, U"to", 0x87CBB98E6BDF967C},
+        {another, U"日本語テキスト", 0x3711AC2687DCCF7A},
+        {another, U"\U0010FFFF\U0010FFFF\U0010FFFF\U0010FFFF\U0010FFFF", 0x573E9678FD149305},
+    };
+    for (auto const &row : rows) EXPECT_EQ(co::sipHash(row.key, row.text), row.expected);
+}
+
+TEST(Hash, TellsLengthsApart) {
+    co::HashKey const key{1, 2};
+    std::u32string const zeros(3, U'\0');
+    EXPECT_NE(co::sipHash(key, {}), co::sipHash(key, {zeros.data(), 1}));
+    EXPECT_NE(co::sipHash(key, {zeros.data(), 1}), co::sipHash(key, {zeros.data(), 2}));
+    EXPECT_NE(co::sipHash(key, {zeros.data(), 2}), co::sipHash(key, {zeros.data(), 3}));
+}
+
+TEST(Hash, KeyStaysTheSameWithinAProcess) {
+    co::HashKey const key = co::processHashKey();
+    co::HashKey const again = co::processHashKey();
+    EXPECT_EQ(key.first, again.first);
+    EXPECT_EQ(key.second, again.second);
+    EXPECT_NE(key.first, 0u);
+    EXPECT_NE(key.second, 0u);
+    EXPECT_EQ(co::hash(U"to"), co::sipHash(key, U"to"));
+}
+
+std::string hashOfThisProcess() { return std::to_string(co::hash(U"to")); }
+
+TEST(Hash, KeyIsAnotherInEachProcess) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // which starts the program anew
+    EXPECT_EXIT((fprintf(stderr, "hash %s", hashOfThisProcess().c_str()), exit(0)), testing::ExitedWithCode(0),
+                testing::AllOf(testing::HasSubstr("hash "), testing::Not(testing::HasSubstr(hashOfThisProcess()))));
+    GTEST_FLAG_SET(death_test_style, "fast");
+}
+
+} // namespace
