@@ -1,0 +1,19 @@
+// The scanners of loc_skip.h for the library's own units, without checks.
+#pragma once
+
+#include <co/co_string.hpp>
+
+namespace loc {
+
+// What no code point equals.
+inline constexpr coChar noChar = ~coChar{0};
+
+// The IRI at the start of the text before the first `end`, which is not searched for beyond the IRI.
+int64_t iriLength(co::Chars text, coChar end = noChar);
+
+// The code points outside US-ASCII that may stand in an IRI's every part, and those that may stand in its query alone
+// (RFC 3987, 2.2).
+bool isUcschar(coChar ch);
+bool isIprivate(coChar ch);
+
+} // namespace loc
