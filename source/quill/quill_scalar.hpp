@@ -1,0 +1,93 @@
+// Scalar values. What the regular ones share is said here once: a unit names its scanner or its range, and the macros
+// only paste names and condition texts. The headers spell every prototype out, so that the two check each other.
+#pragma once
+
+#include <co/co_assert.hpp>
+#include <co/co_format.h>
+#include <co/co_string.hpp>
+#include <co/co_unicode.hpp>
+#include <quill/quill_internal.h>
+#include <quill/quill_skip.h>
+
+// Validator of a text that one scanner takes as a whole.
+#define QUILL_DEFINE_TEXT_VALUE(Value, value, skip)                                                                    \
+    bool quill##Value##Ok(struct coString const *value) {                                                              \
+        CO_ASSERT_GIVEN(value);                                                                                        \
+        return quill::isWhole(skip, value->view());                                                                    \
+    }
+
+// Canonical form of a value whose letter case has no meaning.
+#define QUILL_DEFINE_LOWER_NORMALIZE(Value, value)                                                                     \
+    struct coString *quill##Value##Normalize(struct coString const *value) {                                           \
+        CO_ASSERT_OK(quill##Value##Ok, value);                                                                         \
+        return quill::mapEach<co::asciiLower>(value);                                                                  \
+    }
+
+// Validator of an integer from `least` to `most`.
+#define QUILL_DEFINE_INTEGER_VALUE(Value, value, least, most)                                                          \
+    bool quill##Value##Ok(int64_t value) { return quill::isWithin(value, least, most); }
+
+// Decimal text of an integer, and back; -1 for a text that is anything else than a valid value.
+#define QUILL_DEFINE_INTEGER_CODEC(Value, value)                                                                       \
+    struct coString *quill___##Value##Encode(int64_t value) {                                                          \
+        CO_ASSERT_OK(quill##Value##Ok, value);                                                                         \
+        return coFormatEncodeInt(value, 10, 0, 0);                                                                     \
+    }                                                                                                                  \
+    int64_t quill___##Value##TryDecode(coChar const *chs, int64_t length) {                                            \
+        CO_ASSERT_TEXT(chs, length);                                                                                   \
+        return quill::decodeDecimal(chs, length, quill##Value##Ok);                                                    \
+    }
+
+// A parameter of a Diversion header field, in its stored form: a token, or the text of a quoted string. Lower-casing
+// goes beyond ASCII here, since a quoted string may hold anything.
+#define QUILL_DEFINE_DIVERSION_VALUE(Value, value, skip)                                                               \
+    QUILL_DEFINE_TEXT_VALUE(Value, value, skip)                                                                        \
+    struct coString *quill##Value##Normalize(struct coString const *value) {                                           \
+        CO_ASSERT_GIVEN(value);                                                                                        \
+        struct coString *normal = co::retained(value);                                                                 \
+        coStringToLower(&normal);                                                                                      \
+        return normal;                                                                                                 \
+    }                                                                                                                  \
+    struct coString *quill___##Value##Encode(struct coString *value) {                                                 \
+        CO_ASSERT_GIVEN(value);                                                                                        \
+        return quill::isWhole(quill___SkipToken, value->view()) ? co::retained(value)                                  \
+                                                                : quill___QuotableStringEncode(value);                 \
+    }                                                                                                                  \
+    struct coString *quill___##Value##TryDecode(coChar const *chs, int64_t length) {                                   \
+        CO_ASSERT_TEXT(chs, length);                                                                                   \
+        return quill::isWhole(quill___SkipToken, co::chars(chs, length))                                               \
+                   ? co::makeString(co::chars(chs, length))                                                            \
+                   : quill___QuotableStringTryDecode(chs, length);                                                     \
+    }
+
+namespace quill {
+
+using Scanner = int64_t (*)(coChar const *, int64_t);
+
+// Whether the scanner takes all of a text; an empty one never is a value.
+inline bool isWhole(Scanner skip, co::Chars text) {
+    return !text.empty() && skip(text.data(), co::length(text)) == co::length(text);
+}
+
+constexpr bool isWithin(int64_t value, int64_t least, int64_t most) { return value >= least && value <= most; }
+
+inline int64_t decodeDecimal(coChar const *chs, int64_t length, bool (*ok)(int64_t)) {
+    int64_t value = 0;
+    int64_t charsRead = 0;
+    bool const whole = coFormatTryDecodeIntChars(chs, length, 10, &value, &charsRead) && charsRead == length;
+    return whole && ok(value) ? value : -1;
+}
+
+// The text with each code point mapped: the same string where that changes nothing.
+template <coChar (*map)(coChar)> coString *mapEach(coString const *value) {
+    co::Chars const text = value->view();
+    size_t same = 0;
+    while (same < text.size() && map(text[same]) == text[same]) same++;
+    if (same == text.size()) return co::retained(value);
+
+    coString *mapped = co::makeString(text);
+    for (size_t i = same; i < text.size(); i++) mapped->chars()[i] = map(text[i]);
+    return mapped;
+}
+
+} // namespace quill
