@@ -1,0 +1,83 @@
+// One media range of an Accept header field. Grammar and contract: quill_accept.h.
+
+#define CO_UNIT "source/quill/quill_accept"
+
+#include <quill/quill_accept.h>
+#include <quill/quill_family.hpp>
+#include <quill/quill_generic_params.h>
+#include <quill/quill_lifted.hpp>
+#include <quill/quill_media_subtype.h>
+#include <quill/quill_media_type.h>
+#include <quill/quill_qvalue.h>
+#include <quill/quill_skip.h>
+#include <quill/quill_token.h>
+
+struct quillAccept : coObj {
+    static constexpr auto &sort = quill___sort_QUILL_ACCEPT;
+
+    co::Slot<coString> mediaType;               // lower case, absent for "*"
+    co::Slot<coString> mediaSubtype;            // lower case, absent for "*"
+    co::Slot<quillGenericParams> genericParams; // never null
+    co::Int qvalue;                             // thousandths
+
+    static constexpr auto members() {
+        return std::tuple(&quillAccept::mediaType, &quillAccept::mediaSubtype, &quillAccept::genericParams,
+                          &quillAccept::qvalue);
+    }
+    static constexpr auto comparison() {
+        return std::tuple(&quillAccept::mediaType, &quillAccept::mediaSubtype, &quillAccept::qvalue,
+                          &quillAccept::genericParams);
+    }
+};
+
+QUILL_DEFINE_VALUE(Accept, ACCEPT, accept)
+CO_DEFINE_OPTIONAL_STRING_MEMBER(quillAccept, accept, MediaType, mediaType, quillMediaTypeOk, mediaType,
+                                 quillMediaTypeNormalize)
+CO_DEFINE_OPTIONAL_STRING_MEMBER(quillAccept, accept, MediaSubtype, mediaSubtype, quillMediaSubtypeOk, mediaSubtype,
+                                 quillMediaSubtypeNormalize)
+CO_DEFINE_OBJECT_MEMBER(quillAccept, accept, GenericParams, genericParams, quillGenericParams, genericParams)
+CO_DEFINE_OPTIONAL_INT_MEMBER(quillAccept, accept, Qvalue, qvalue, quillQvalueOk, qvalue)
+
+struct quillAccept *quillAcceptCreate(void) {
+    auto *accept = co::make<quillAccept>();
+    accept->genericParams.set(quill::noGenericParams());
+    return accept;
+}
+
+// An accept-param of its own: "q" EQUAL qvalue.
+static constexpr std::tuple lifted{
+    quill::IntParam{U"q", quill___SkipQvalue, quill___QvalueTryDecode, quill___QvalueEncode, &quillAccept::qvalue},
+};
+
+struct coString *quill___AcceptEncode(struct quillAccept const *accept) {
+    CO_ASSERT_GIVEN(accept);
+    coString *text = coStringCreate();
+    co::append(&text, accept->mediaType ? accept->mediaType->view() : U"*");
+    co::append(&text, U"/");
+    co::append(&text, accept->mediaType && accept->mediaSubtype ? accept->mediaSubtype->view() : U"*");
+    quill::appendParams(&text, *accept, lifted);
+    return text;
+}
+
+// A name at the start of the text, kept in lower case, or a star, which leaves the member absent.
+static int64_t takeNameOrStar(co::Slot<coString> *name, quill::Scanner scan, co::Chars text) {
+    int64_t const count = quill::measure(scan, text);
+    if (count == 0) return quill___SkipChar(text.data(), co::length(text), U'*');
+    co::Ref<coString> const found(co::makeString(quill::upTo(text, count)));
+    name->adopt(quillTokenNormalize(found.get()));
+    return count;
+}
+
+struct quillAccept *quill___AcceptTryDecode(coChar const *chs, int64_t length) {
+    CO_ASSERT_TEXT(chs, length);
+    co::Ref<quillAccept> accept(quillAcceptCreate());
+    co::Chars text = co::chars(chs, length);
+    int64_t const type = takeNameOrStar(&accept->mediaType, quill___SkipMediaType, text);
+    text = quill::from(text, type);
+    int64_t const slash = quill::measure(quill___SkipSlash, text);
+    text = quill::from(text, slash);
+    int64_t const subtype = takeNameOrStar(&accept->mediaSubtype, quill___SkipMediaSubtype, text);
+    text = quill::from(text, subtype);
+    if (type == 0 || slash == 0 || subtype == 0) return nullptr;
+    return quill::takeParams(accept.get(), text, lifted) ? accept.take() : nullptr;
+}

@@ -1,0 +1,18 @@
+// One value of an Alert-Info header field. Grammar and contract: quill_alert_info.h.
+
+#define CO_UNIT "source/quill/quill_alert_info"
+
+#include <quill/quill_alert_info.h>
+#include <quill/quill_info.hpp>
+
+struct quillAlertInfo : coObj {
+    static constexpr auto &sort = quill___sort_QUILL_ALERT_INFO;
+
+    co::Slot<coString> iri;                     // never null
+    co::Slot<quillGenericParams> genericParams; // never null
+
+    static constexpr auto members() { return std::tuple(&quillAlertInfo::iri, &quillAlertInfo::genericParams); }
+    static constexpr auto comparison() { return members(); }
+};
+
+QUILL_DEFINE_INFO(AlertInfo, ALERT_INFO, alertInfo)

@@ -1,0 +1,210 @@
+// Generic parameters. Grammar and contract: quill_generic_params.h.
+
+#define CO_UNIT "source/quill/quill_generic_params"
+
+#include <co/co_dict.hpp>
+#include <co/co_vector.hpp>
+#include <quill/quill_family.hpp>
+#include <quill/quill_generic_param.h>
+#include <quill/quill_generic_param_name.h>
+#include <quill/quill_generic_params.hpp>
+#include <quill/quill_skip.h>
+
+struct quillGenericParams : coObj {
+    static constexpr auto &sort = quill___sort_QUILL_GENERIC_PARAMS;
+
+    co::Slot<coDict> params; // never null; from the name, in lower case, to the parameter
+
+    static constexpr auto members() { return std::tuple(&quillGenericParams::params); }
+    static constexpr auto comparison() { return members(); }
+};
+
+QUILL_DEFINE_VALUE(GenericParams, GENERIC_PARAMS, genericParams)
+
+struct quillGenericParams *quill::noGenericParams() {
+    static constinit quillGenericParams none{{&quillGenericParams::sort, co::immortal},
+                                             co::Slot<coDict>(&co::emptyDict)};
+    return &none;
+}
+
+struct quillGenericParams *quillGenericParamsCreate(void) {
+    auto *params = co::make<quillGenericParams>();
+    params->params.adopt(coDictCreate());
+    return params;
+}
+
+// By position.
+
+int64_t quillGenericParamsLength(struct quillGenericParams const *params) {
+    CO_ASSERT_GIVEN(params);
+    return coDictLength(params->params.get());
+}
+
+struct quillGenericParam *quillGenericParamsParamAt(struct quillGenericParams const *params, int64_t index) {
+    CO_ASSERT_GIVEN(params);
+    return quillGenericParamFrom(coDictValueAt(params->params.get(), index));
+}
+
+int64_t quillGenericParamsParamValueTypeAt(struct quillGenericParams const *params, int64_t index) {
+    co::Ref<quillGenericParam> const param(quillGenericParamsParamAt(params, index));
+    return quillGenericParamValueType(param.get());
+}
+
+struct coString *quillGenericParamsParamValueNormalizedAt(struct quillGenericParams const *params, int64_t index) {
+    co::Ref<quillGenericParam> const param(quillGenericParamsParamAt(params, index));
+    return quillGenericParamValueNormalized(param.get());
+}
+
+struct coString *quillGenericParamsParamValueNonNormalizedAt(struct quillGenericParams const *params, int64_t index) {
+    co::Ref<quillGenericParam> const param(quillGenericParamsParamAt(params, index));
+    return quillGenericParamValueNonNormalized(param.get());
+}
+
+// All at once.
+
+struct coVector *quillGenericParamsParamsVector(struct quillGenericParams const *params) {
+    CO_ASSERT_GIVEN(params);
+    return coDictValuesVector(params->params.get());
+}
+
+static void setParam(quillGenericParams *own, quillGenericParam *param) {
+    co::Ref<coString> const name(quillGenericParamName(param));
+    coDictSetStringKey(own->params.address(), name.get(), quillGenericParamObj(param));
+}
+
+void quillGenericParamsSetParamsVector(struct quillGenericParams **params, struct coVector const *vector) {
+    CO_ASSERT_REFERENCE(params);
+    CO_ASSERT_GIVEN(vector);
+    quillGenericParams *own = co::writable(params);
+    coDictClear(own->params.address());
+    for (int64_t i = 0; i < vector->length; i++) {
+        CO_ASSERT(coObjSort(vector->at(i)) == quillGenericParamSort(), "gp");
+        setParam(own, quillGenericParamFrom(vector->at(i)));
+    }
+}
+
+// By name.
+
+struct quillGenericParam *quillGenericParamsParam(struct quillGenericParams const *params,
+                                                  struct coString const *name) {
+    CO_ASSERT_GIVEN(params);
+    co::Ref<coString> const normal(quillGenericParamNameNormalize(name));
+    return quillGenericParamFrom(coDictStringKey(params->params.get(), normal.get()));
+}
+
+bool quillGenericParamsHasParam(struct quillGenericParams const *params, struct coString const *name) {
+    CO_ASSERT_GIVEN(params);
+    co::Ref<coString> const normal(quillGenericParamNameNormalize(name));
+    return coDictHasStringKey(params->params.get(), normal.get());
+}
+
+void quillGenericParamsSetParam(struct quillGenericParams **params, struct quillGenericParam *param) {
+    CO_ASSERT_REFERENCE(params);
+    CO_ASSERT_GIVEN(param);
+    setParam(co::writable(params), param);
+}
+
+void quillGenericParamsDelParam(struct quillGenericParams **params, struct coString const *name) {
+    CO_ASSERT_REFERENCE(params);
+    co::Ref<coString> const normal(quillGenericParamNameNormalize(name));
+    coDictDelStringKey(co::writable(params)->params.address(), normal.get());
+}
+
+CO_DEFINE_TEXT_FORMS_1(struct quillGenericParam *, quillGenericParamsParam, struct quillGenericParams const *, params,
+                       name)
+CO_DEFINE_TEXT_FORMS_1(bool, quillGenericParamsHasParam, struct quillGenericParams const *, params, name)
+CO_DEFINE_TEXT_FORMS_1(void, quillGenericParamsDelParam, struct quillGenericParams **, params, name)
+
+// The value of a parameter by name.
+
+static co::Ref<quillGenericParam> present(quillGenericParams const *params, coString const *name) {
+    co::Ref<quillGenericParam> param(quillGenericParamsParam(params, name));
+    CO_ASSERT(param, "param");
+    return param;
+}
+
+int64_t quillGenericParamsParamValueType(struct quillGenericParams const *params, struct coString const *name) {
+    return quillGenericParamValueType(present(params, name).get());
+}
+
+struct coString *quillGenericParamsParamValueNormalized(struct quillGenericParams const *params,
+                                                        struct coString const *name) {
+    return quillGenericParamValueNormalized(present(params, name).get());
+}
+
+struct coString *quillGenericParamsParamValueNonNormalized(struct quillGenericParams const *params,
+                                                           struct coString const *name) {
+    return quillGenericParamValueNonNormalized(present(params, name).get());
+}
+
+CO_DEFINE_TEXT_FORMS_1(int64_t, quillGenericParamsParamValueType, struct quillGenericParams const *, params, name)
+CO_DEFINE_TEXT_FORMS_1(struct coString *, quillGenericParamsParamValueNormalized, struct quillGenericParams const *,
+                       params, name)
+CO_DEFINE_TEXT_FORMS_1(struct coString *, quillGenericParamsParamValueNonNormalized, struct quillGenericParams const *,
+                       params, name)
+
+void quillGenericParamsSetParamValue(struct quillGenericParams **params, struct coString *name, int64_t type,
+                                     struct coString *value) {
+    CO_ASSERT_REFERENCE(params);
+    co::Ref<quillGenericParam> const param(quillGenericParamCreateWithValue(name, type, value));
+    quillGenericParamsSetParam(params, param.get());
+}
+
+void quillGenericParamsSetParamValueCstr(struct quillGenericParams **params, char const *name, int64_t nameLength,
+                                         int64_t type, char const *value, int64_t valueLength) {
+    quillGenericParamsSetParamValue(params, co::Text(name, nameLength), type, co::Text(value, valueLength));
+}
+
+void quillGenericParamsSetParamValueWcstr(struct quillGenericParams **params, wchar_t const *name, int64_t nameLength,
+                                          int64_t type, wchar_t const *value, int64_t valueLength) {
+    quillGenericParamsSetParamValue(params, co::Text(name, nameLength), type, co::Text(value, valueLength));
+}
+
+// The codec: each parameter with its leading semicolon.
+
+static bool isAmong(co::Chars name, co::Chars const *names, size_t count) {
+    for (size_t i = 0; i < count; i++)
+        if (names[i] == name) return true;
+    return false;
+}
+
+void quill::appendGenericParams(coString **text, quillGenericParams const *params, co::Chars const *without,
+                                size_t count) {
+    co::DictWalk walk(params->params.get());
+    for (co::DictEntry entry; walk.next(&entry);) {
+        if (isAmong(entry.key->view(), without, count)) continue;
+        co::Ref<coString> const param(quill___GenericParamEncode(quillGenericParamFrom(entry.value)));
+        co::append(text, U";");
+        co::append(text, param->view());
+    }
+}
+
+int64_t quill::takeGenericParam(quillGenericParams **params, co::Chars text) {
+    int64_t const count = quill___SkipGenericParam(text.data(), co::length(text));
+    co::Ref<quillGenericParam> const param(quill___GenericParamTryDecode(text.data(), count));
+    if (!param) return 0;
+    setParam(co::writable(params), param.get());
+    return count;
+}
+
+struct coString *quill___GenericParamsEncode(struct quillGenericParams const *genericParams) {
+    CO_ASSERT_GIVEN(genericParams);
+    coString *text = coStringCreate();
+    quill::appendGenericParams(&text, genericParams);
+    return text;
+}
+
+struct quillGenericParams *quill___GenericParamsTryDecode(coChar const *chs, int64_t length) {
+    CO_ASSERT_TEXT(chs, length);
+    co::Ref<quillGenericParams> params(quillGenericParamsCreate());
+    for (int64_t at = 0; at < length;) {
+        int64_t const semi = quill___SkipSemi(chs + at, length - at);
+        if (semi == 0) return nullptr;
+        at += semi;
+        if (at == length) break; // a semicolon with nothing behind it ends the list
+        int64_t const count = quill::takeGenericParam(params.address(), co::chars(chs + at, length - at));
+        if (count == 0) return nullptr;
+        at += count;
+    }
+    return params.take();
+}

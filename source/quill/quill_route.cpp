@@ -1,0 +1,45 @@
+// One value of a Route, Record-Route or Service-Route header field. Grammar and contract: quill_route.h.
+
+#define CO_UNIT "source/quill/quill_route"
+
+#include <quill/quill_display_name.h>
+#include <quill/quill_family.hpp>
+#include <quill/quill_iri.h>
+#include <quill/quill_name_addr.hpp>
+#include <quill/quill_route.h>
+
+struct quillRoute : coObj {
+    static constexpr auto &sort = quill___sort_QUILL_ROUTE;
+
+    co::Slot<coString> iri; // never null
+    co::Slot<coString> displayName;
+    co::Slot<quillGenericParams> genericParams; // never null
+
+    static constexpr auto members() {
+        return std::tuple(&quillRoute::iri, &quillRoute::displayName, &quillRoute::genericParams);
+    }
+    static constexpr auto comparison() { return members(); }
+};
+
+QUILL_DEFINE_VALUE(Route, ROUTE, route)
+CO_DEFINE_STRING_MEMBER(quillRoute, route, Iri, iri, quillIriOk, iri, co::asGiven)
+CO_DEFINE_OPTIONAL_STRING_MEMBER(quillRoute, route, DisplayName, displayName, quillDisplayNameOk, displayName,
+                                 co::asGiven)
+CO_DEFINE_OBJECT_MEMBER(quillRoute, route, GenericParams, genericParams, quillGenericParams, genericParams)
+
+struct quillRoute *quillRouteCreate(struct coString *iri) {
+    CO_ASSERT_OK(quillIriOk, iri);
+    return quill::makeAddress<quillRoute>(iri);
+}
+
+static constexpr std::tuple<> lifted;
+
+struct coString *quill___RouteEncode(struct quillRoute const *route) {
+    CO_ASSERT_GIVEN(route);
+    return quill::encodeAddress(*route, lifted);
+}
+
+struct quillRoute *quill___RouteTryDecode(coChar const *chs, int64_t length) {
+    CO_ASSERT_TEXT(chs, length);
+    return quill::tryDecodeAddress<quillRoute>(co::chars(chs, length), quill::Bare::allowed, lifted);
+}

@@ -1,0 +1,255 @@
+// One value of a Via header field. Grammar and contract: quill_via.h.
+
+#define CO_UNIT "source/quill/quill_via"
+
+#include <loc/loc_skip.h>
+#include <nx/nx_address.h>
+#include <quill/quill_branch.h>
+#include <quill/quill_family.hpp>
+#include <quill/quill_host.h>
+#include <quill/quill_lifted.hpp>
+#include <quill/quill_port.h>
+#include <quill/quill_transport.h>
+#include <quill/quill_ttl.h>
+#include <quill/quill_version.h>
+#include <quill/quill_via.h>
+
+struct quillVia : coObj {
+    static constexpr auto &sort = quill___sort_QUILL_VIA;
+
+    co::Slot<quillVersion> version; // never null
+    co::Slot<coString> transport;   // never null, lower case
+    co::Slot<coString> host;        // never null
+    co::Int port;
+    co::Int ttl;
+    co::Slot<coString> maddr;
+    co::Slot<nxAddress> received;
+    co::Flag rportEmpty; // never together with a number
+    co::Int rportNumeric;
+    co::Slot<coString> branch;
+    co::Slot<quillGenericParams> genericParams; // never null
+
+    void setRport(bool empty, int64_t numeric) {
+        rportEmpty.set(empty);
+        rportNumeric.set(numeric);
+    }
+
+    static constexpr auto members() {
+        return std::tuple(&quillVia::version, &quillVia::transport, &quillVia::host, &quillVia::port, &quillVia::ttl,
+                          &quillVia::maddr, &quillVia::received, &quillVia::rportEmpty, &quillVia::rportNumeric,
+                          &quillVia::branch, &quillVia::genericParams);
+    }
+    // Without rport: it says how to answer, not who sent.
+    static constexpr auto comparison() {
+        return std::tuple(&quillVia::version, &quillVia::transport, &quillVia::host, &quillVia::port, &quillVia::ttl,
+                          &quillVia::maddr, &quillVia::received, &quillVia::branch, &quillVia::genericParams);
+    }
+};
+
+QUILL_DEFINE_VALUE(Via, VIA, via)
+CO_DEFINE_OBJECT_MEMBER(quillVia, via, Version, version, quillVersion, version)
+CO_DEFINE_STRING_MEMBER(quillVia, via, Transport, transport, quillTransportOk, transport, quillTransportNormalize)
+CO_DEFINE_STRING_MEMBER(quillVia, via, Host, host, quillHostOk, host, co::asGiven)
+CO_DEFINE_OPTIONAL_INT_MEMBER(quillVia, via, Port, port, quillPortOk, port)
+CO_DEFINE_OPTIONAL_INT_MEMBER(quillVia, via, Ttl, ttl, quillTtlOk, ttl)
+CO_DEFINE_OPTIONAL_STRING_MEMBER(quillVia, via, Maddr, maddr, quillHostOk, host, co::asGiven)
+CO_DEFINE_OPTIONAL_OBJECT_MEMBER(quillVia, via, Received, received, nxAddress, received)
+CO_DEFINE_OPTIONAL_STRING_MEMBER(quillVia, via, Branch, branch, quillBranchOk, branch, co::asGiven)
+CO_DEFINE_OBJECT_MEMBER(quillVia, via, GenericParams, genericParams, quillGenericParams, params)
+
+// rport, which is one parameter in two members.
+
+int64_t quillViaRportNumeric(struct quillVia const *via) {
+    CO_ASSERT_GIVEN(via);
+    return via->rportNumeric.get();
+}
+
+bool quillViaHasRport(struct quillVia const *via) {
+    CO_ASSERT_GIVEN(via);
+    return via->rportNumeric || via->rportEmpty.get();
+}
+
+bool quillViaHasRportNumeric(struct quillVia const *via) {
+    CO_ASSERT_GIVEN(via);
+    return static_cast<bool>(via->rportNumeric);
+}
+
+bool quillViaHasRportEmpty(struct quillVia const *via) {
+    CO_ASSERT_GIVEN(via);
+    return via->rportEmpty.get();
+}
+
+void quillViaSetRportNumeric(struct quillVia **via, int64_t rport) {
+    CO_ASSERT_REFERENCE(via);
+    CO_ASSERT_OK(quillPortOk, rport);
+    co::writable(via)->setRport(false, rport);
+}
+
+void quillViaSetRportEmpty(struct quillVia **via) {
+    CO_ASSERT_REFERENCE(via);
+    co::writable(via)->setRport(true, -1);
+}
+
+void quillViaDelRport(struct quillVia **via) {
+    CO_ASSERT_REFERENCE(via);
+    co::writable(via)->setRport(false, -1);
+}
+
+// Texts that live from start-up to shut-down: the names of the lifted parameters, and the parts of a dummy.
+
+enum { ttl, maddr, received, rport, branch, udp, localhost };
+
+static constexpr co::Chars texts[] = {U"ttl", U"maddr", U"received", U"rport", U"branch", U"udp", U"localhost"};
+
+static constinit struct coString *statics[std::size(texts)] = {};
+
+void quill___ViaStartup(void) {
+    for (size_t i = 0; i < std::size(statics); i++) quill::start(&statics[i], co::makeString(texts[i]));
+}
+
+void quill___ViaShutdown(void) {
+    for (struct coString *&slot : statics) quill::stop(&slot);
+}
+
+// Creation. What was read needs no proof that it is valid.
+
+static quillVia *makeVia(quillVersion *version, coString const *transport, coString *host) {
+    auto *via = co::make<quillVia>();
+    via->version.set(version);
+    via->transport.adopt(quillTransportNormalize(transport));
+    via->host.set(host);
+    via->genericParams.set(quill::noGenericParams());
+    return via;
+}
+
+struct quillVia *quillViaCreate(struct quillVersion *version, struct coString *transport, struct coString *host) {
+    CO_ASSERT_GIVEN(version);
+    CO_ASSERT_OK(quillTransportOk, transport);
+    CO_ASSERT_OK(quillHostOk, host);
+    return makeVia(version, transport, host);
+}
+
+struct quillVia *quillViaCreateWithPort(struct quillVersion *version, struct coString *transport, struct coString *host,
+                                        int64_t port) {
+    CO_ASSERT_GIVEN(version);
+    CO_ASSERT_OK(quillTransportOk, transport);
+    CO_ASSERT_OK(quillHostOk, host);
+    CO_ASSERT_OK(quillPortOk, port);
+    quillVia *via = makeVia(version, transport, host);
+    via->port.set(port);
+    return via;
+}
+
+struct quillVia *quillViaCreateDummy(struct quillVersion *version) {
+    return quillViaCreate(version, statics[udp], statics[localhost]);
+}
+
+// The codec.
+
+namespace {
+
+// "received" EQUAL ( IPv6address / IPv4address ): an address without brackets, never a name.
+struct ReceivedParam {
+    static constexpr co::Chars name = texts[received];
+
+    int64_t take(quillVia *via, co::Chars text) const {
+        int64_t const at = quill::takeNameEqual(text, name);
+        if (at == 0) return 0;
+        co::Chars const rest = quill::from(text, at);
+        int64_t const ipV6 = quill::measure(loc___SkipIpV6Address, rest);
+        int64_t const count = ipV6 ? ipV6 : quill::measure(loc___SkipIpV4Address, rest);
+        if (count == 0) return 0;
+        nxAddress *ina = nxAddressTryCreateFromChars(rest.data(), count);
+        CO_ASSERT_GIVEN(ina); // what the scanners take is an address
+        via->received.adopt(ina);
+        return at + count;
+    }
+    bool isSet(quillVia const &via) const { return static_cast<bool>(via.received); }
+    void encode(coString **text, quillVia const &via) const {
+        quill::appendTakenParam(text, name, nxAddressToStringShrink(via.received.get()));
+    }
+};
+
+// "rport" alone. With a value it is read as a generic parameter, never as a number.
+struct RportParam {
+    static constexpr co::Chars name = texts[rport];
+
+    int64_t take(quillVia *via, co::Chars text) const {
+        int64_t const count = quill::takeName(text, name);
+        if (count == 0 || quill::measure(quill___SkipEqual, quill::from(text, count)) > 0) return 0;
+        via->setRport(true, -1);
+        return count;
+    }
+    bool isSet(quillVia const &via) const { return via.rportEmpty.get() || via.rportNumeric; }
+    void encode(coString **text, quillVia const &via) const {
+        if (via.rportEmpty.get()) return quill::appendParam(text, name);
+        quill::appendTakenParam(text, name, quill___PortEncode(via.rportNumeric.get()));
+    }
+};
+
+} // namespace
+
+static constexpr std::tuple lifted{
+    quill::IntParam{texts[ttl], quill___SkipTtl, quill___TtlTryDecode, quill___TtlEncode, &quillVia::ttl},
+    quill::CodedParam{texts[maddr], quill___SkipHost, quill___HostTryDecode, quill___HostEncode, &quillVia::maddr},
+    ReceivedParam{},
+    RportParam{},
+    quill::TextParam{texts[branch], quill___SkipBranch, &quillVia::branch},
+};
+
+// The transport is a token: US-ASCII.
+static void appendTransport(coString **text, quillVia const *via) {
+    co::Ref<coString> transport(via->transport.retained());
+    coStringToUpper(transport.address());
+    co::append(text, transport->view());
+}
+
+static void appendSentBy(coString **text, quillVia const *via) {
+    co::Ref<coString> const host(quill___HostEncode(via->host.get()));
+    co::append(text, host->view());
+    if (!via->port) return;
+    co::Ref<coString> const port(quill___PortEncode(via->port.get()));
+    co::append(text, U":");
+    co::append(text, port->view());
+}
+
+struct coString *quill___ViaEncode(struct quillVia const *via) {
+    CO_ASSERT_GIVEN(via);
+    coString *text = quill___VersionEncode(via->version.get());
+    co::append(&text, U"/");
+    appendTransport(&text, via);
+    co::append(&text, U" ");
+    appendSentBy(&text, via);
+    quill::appendParams(&text, *via, lifted);
+    return text;
+}
+
+// [ COLON port ]
+static bool takePort(quillVia *via, quill::Reader *reader) {
+    if (quill::measure(quill___SkipColon, reader->rest) == 0) return true;
+    reader->take(quill___SkipColon);
+    co::Chars const port = reader->take(quill___SkipPort);
+    if (reader->failed) return false;
+    via->port.set(quill___PortTryDecode(port.data(), co::length(port)));
+    return static_cast<bool>(via->port);
+}
+
+// protocol-name SLASH protocol-version SLASH transport LWS host [ COLON port ] *( SEMI via-params )
+struct quillVia *quill___ViaTryDecode(coChar const *chs, int64_t length) {
+    CO_ASSERT_TEXT(chs, length);
+    quill::Reader reader{co::chars(chs, length)};
+    co::Chars const version = reader.take(quill___SkipVersion);
+    reader.take(quill___SkipSlash);
+    co::Chars const transport = reader.take(quill___SkipTransport);
+    reader.take(quill___SkipLws);
+    co::Chars const host = reader.take(quill___SkipHost);
+    if (reader.failed) return nullptr;
+
+    co::Ref<quillVersion> const versionObj(quill___VersionTryDecode(version.data(), co::length(version)));
+    co::Ref<coString> const transportText(co::makeString(transport));
+    co::Ref<coString> const hostText(quill___HostTryDecode(host.data(), co::length(host)));
+    if (!versionObj || !hostText) return nullptr;
+    co::Ref<quillVia> via(makeVia(versionObj.get(), transportText.get(), hostText.get()));
+    if (!takePort(via.get(), &reader)) return nullptr;
+    return quill::takeParams(via.get(), reader.rest, lifted) ? via.take() : nullptr;
+}
