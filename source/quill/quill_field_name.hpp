@@ -1,0 +1,26 @@
+// Names of header fields in their normal form, and the shared strings of the known ones: those of the typed headers and
+// those that have a compact form (RFC 3261, 7.3.3 and 20).
+#pragma once
+
+#include <co/co_string.hpp>
+#include <string_view>
+
+namespace quill {
+
+// The number of a known name, in any letter case or compact; -1 for others. Nothing is allocated. The typed headers come
+// first, in the order of their list.
+int knownFieldName(std::string_view name);
+int knownFieldName(co::Chars name);
+
+inline constexpr int knownFieldNameCount = 65;
+coString *fieldNameAt(int known);          // borrowed; null before start-up, all ones after shut-down
+std::string_view fieldNameText(int known); // the same as bytes
+
+// The normal form as an owned string, shared where the name is known; null where the text is no token.
+coString *tryNormalizeFieldName(std::string_view name);
+coString *tryNormalizeFieldName(co::Chars name);
+
+void startFieldNames();
+void stopFieldNames();
+
+} // namespace quill

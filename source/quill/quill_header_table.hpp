@@ -1,0 +1,128 @@
+// A fragment's header collection: raw headers by their normal names, in the order in which the names came. The fragment,
+// its decoder and its encoder use this interface alone; how the headers are kept is known here and in the source file.
+//
+// A decoded table keeps the received bytes and an index over them: for each name the lines of it. A raw header is made
+// of them when somebody asks for one, a line is widened when somebody reads it, and the encoder copies bytes. A header
+// that is set stands in the table as the object it is.
+#pragma once
+
+#include <co/co_buffer.hpp>
+#include <co/co_member.hpp>
+#include <co/co_utf8.hpp>
+#include <co/co_vector.hpp>
+#include <quill/quill_types.h>
+#include <string_view>
+
+namespace quill {
+
+// One line of the received bytes.
+struct WireLine {
+    uint32_t start; // of the name
+    uint32_t value; // trimmed
+    uint32_t length;
+    uint32_t next;  // of the same name, noLine for none
+    bool folded;    // the value holds line ends, which are to be joined
+    bool canonical; // from the start to the value's end it stands as it is written
+};
+
+inline constexpr uint32_t noLine = UINT32_MAX;
+
+// The received header lines, checked as UTF-8; the lines' index follows, then the bytes. Never changed.
+struct WireText : coObj {
+    static coSort const sort;
+    int64_t lineCount;
+    int64_t byteCount;
+    bool ascii; // every byte
+
+    coChar *widen(coChar *chars, std::string_view bytes) const {
+        return ascii ? co::widenAscii(chars, bytes) : co::widenUtf8(chars, bytes);
+    }
+    WireLine *lines() { return reinterpret_cast<WireLine *>(this + 1); }
+    WireLine const *lines() const { return reinterpret_cast<WireLine const *>(this + 1); }
+    char *bytes() { return reinterpret_cast<char *>(lines() + lineCount); }
+    char const *bytes() const { return reinterpret_cast<char const *>(lines() + lineCount); }
+    std::string_view valueOf(WireLine const &line) const { return {bytes() + line.value, line.length}; }
+};
+
+struct HeaderSet; // what copies of a table share until one of them changes
+
+// What stands under one name.
+struct HeaderEntry {
+    coString *name;                    // in its normal form; null for an entry that was removed
+    struct quillMessageHeader *header; // null while the lines of the received bytes are it
+    uint32_t first;                    // of the lines
+    uint32_t last;
+    uint32_t count;
+};
+
+// A member of the fragment like a co::Slot: copies share, changes make private.
+class HeaderTable {
+public:
+    // Reads header lines, which must be UTF-8, or all of them ASCII, into an empty table. False where one of them is none.
+    bool tryDecode(std::string_view lines, bool ascii);
+
+    bool has(co::Chars name) const { return find(name) != nullptr; }
+
+    // The header of a normal name, owned, or null.
+    struct quillMessageHeader *header(co::Chars name) const;
+
+    // A new vector of the headers in order.
+    coVector *vector() const;
+
+    void set(struct quillMessageHeader *header);
+    void remove(co::Chars name);
+    void removeAll();
+
+    // Writes the lines of all headers, with the line of the content's length in the place of the header of that name,
+    // or behind all others.
+    void encode(coBuffer **buf, co::Chars contentLengthName, int64_t contentLength) const;
+    int64_t encodedLength() const; // about
+
+    void init() { headers.init(); }
+    void copy(HeaderTable const &source) { headers.copy(source.headers); }
+    void poison() { headers.poison(); }
+
+private:
+    friend class Lines;
+    HeaderEntry const *find(co::Chars name) const;
+    HeaderEntry const *find(int known) const; // by the number of a known name
+
+    co::Slot<HeaderSet> headers; // null for none at all
+};
+
+// The lines of one header, read one after the other without anything being made of them that is kept.
+class Lines {
+public:
+    Lines(HeaderTable const &table, co::Chars name) : Lines(table.headers.get(), table.find(name)) {}
+    Lines(HeaderTable const &table, int known) : Lines(table.headers.get(), table.find(known)) {}
+    explicit Lines(struct quillMessageHeader const *header);
+    Lines(Lines const &) = delete;
+    ~Lines();
+
+    int64_t count() const { return total; }
+    // The next line, and the last one; good until another is read. False when there is none.
+    bool next(co::Chars *line);
+    bool last(co::Chars *line);
+    void restart() { place = firstPlace; }
+    // The string of the line that was read last, borrowed; null for a line of the received bytes.
+    coString *string() const { return current; }
+
+private:
+    static constexpr int64_t usualLength = 256;
+
+    Lines(HeaderSet const *set, HeaderEntry const *entry);
+    co::Chars widen(uint32_t index);
+
+    coVector const *strings = nullptr; // of a raw header, or else
+    WireText const *text = nullptr;    // the received bytes
+    coString *current = nullptr;
+    uint32_t place = 0;
+    uint32_t firstPlace = 0;
+    uint32_t lastPlace = 0;
+    int64_t total = 0;
+    coChar *heap = nullptr;
+    int64_t capacity;
+    coChar local[usualLength];
+};
+
+} // namespace quill
