@@ -1,0 +1,51 @@
+// Typed headers: what all of them share. Contract: quill_header_family.hpp.
+
+#include <quill/quill_header_family.hpp>
+
+namespace quill {
+
+struct quillMessageHeader *makeHeaderOfLine(coString *name, coString *line) {
+    co::Ref<coString> const taken(line);
+    struct quillMessageHeader *header = quillMessageHeaderCreate(name);
+    quillMessageHeaderAppendLine(&header, taken.get());
+    return header;
+}
+
+struct quillMessageHeader *makeHeaderOfLines(coString *name, coVector *texts) {
+    struct quillMessageHeader *header = quillMessageHeaderCreate(name);
+    quillMessageHeaderSetLinesVector(&header, texts);
+    return header;
+}
+
+coString *textOfLines(struct quillMessageHeader const *header) {
+    coVector const *lines = header->lines.get();
+    if (lines->length == 0) return coStringCreate();
+    if (lines->length == 1) return co::retained(co::stringAt(lines, 0));
+    return coVectorToString(lines);
+}
+
+static void appendJoined(coString **line, co::Chars text, co::Chars delimiter) {
+    if ((*line)->length > 0) co::append(line, delimiter);
+    co::append(line, text);
+}
+
+static struct quillMessageHeader *makeHeaderUnlessEmpty(coString *name, coString *line) {
+    if (line->length > 0) return makeHeaderOfLine(name, line);
+    co::release(line);
+    return quillMessageHeaderCreate(name);
+}
+
+struct quillMessageHeader *makeHeaderOfJoined(coString *name, coVector const *texts, co::Chars delimiter) {
+    coString *line = coStringCreate();
+    for (int64_t i = 0; i < texts->length; i++) appendJoined(&line, co::stringAt(texts, i)->view(), delimiter);
+    return makeHeaderUnlessEmpty(name, line);
+}
+
+struct quillMessageHeader *makeHeaderOfJoined(coString *name, coDict const *keys, co::Chars delimiter) {
+    coString *line = coStringCreate();
+    co::DictWalk walk(keys);
+    for (co::DictEntry entry; walk.next(&entry);) appendJoined(&line, entry.key->view(), delimiter);
+    return makeHeaderUnlessEmpty(name, line);
+}
+
+} // namespace quill

@@ -1,0 +1,473 @@
+// Typed headers: what all of them share, and the three shapes they come in. A header's unit says its shape, its element
+// and its names; what is irregular it writes out.
+//
+// A list keeps the text of each element and decodes an element when it is asked for. A set keeps distinct tokens. A
+// single value keeps its parts. All of them read the lines of the raw header of their name and write such a header.
+#pragma once
+
+#include <co/co_dict.hpp>
+#include <co/co_store.h>
+#include <co/co_vector.hpp>
+#include <quill/quill_family.hpp>
+#include <quill/quill_lifted.hpp>
+#include <quill/quill_message.h>
+#include <quill/quill_message_fragment.hpp>
+#include <quill/quill_message_header.h>
+#include <quill/quill_message_header.hpp>
+#include <quill/quill_scalar.hpp>
+#include <quill/quill_typed_headers.hpp>
+
+namespace quill {
+
+// The names of the fields, from the one list.
+namespace field {
+#define QUILL_FIELD(Type, SORT, name, shape, definition) inline constexpr char const Type[] = name;
+QUILL_TYPED_HEADERS(QUILL_FIELD)
+#undef QUILL_FIELD
+} // namespace field
+
+// The numbers of these names (quill_field_name.hpp).
+namespace known {
+#define QUILL_FIELD(Type, SORT, name, shape, definition) Type,
+enum : int { QUILL_TYPED_HEADERS(QUILL_FIELD) };
+#undef QUILL_FIELD
+} // namespace known
+
+// A raw header with one line, which is taken over.
+struct quillMessageHeader *makeHeaderOfLine(coString *name, coString *line);
+
+// No line is the empty text, one line itself, more the text of their vector.
+coString *textOfLines(struct quillMessageHeader const *header);
+
+// The string of an element: that of the line where there is one and the element is all of it.
+inline coString *elementOf(coString const *line, co::Chars element) {
+    return line && co::length(element) == line->length ? co::retained(line) : co::makeString(element);
+}
+
+// Reads elements between separators off every line that is not empty: `element` measures one, `add` takes its string
+// over. False where a line is anything else, or where there is no line.
+template <class Add> bool readElements(Lines &lines, Scanner element, Scanner separator, Add add) {
+    for (co::Chars rest; lines.next(&rest);) {
+        while (!rest.empty()) {
+            int64_t const count = measure(element, rest);
+            if (count == 0) return false;
+            add(elementOf(lines.string(), upTo(rest, count)));
+            rest = from(rest, count);
+            if (rest.empty()) break;
+            int64_t const between = measure(separator, rest);
+            rest = from(rest, between);
+            if (between == 0 || rest.empty()) return false; // something else, or nothing behind a separator
+        }
+    }
+    return lines.count() > 0;
+}
+
+// Lists
+
+// What a list is. One that has more derives from it too, with a members() of its own.
+struct ListHeader : coObj {
+    co::Slot<coVector> elements; // never null, of strings
+    static constexpr auto members() { return std::tuple(&ListHeader::elements); }
+    static constexpr auto comparison() { return members(); }
+    void onElement() {} // is called when an element is put in
+};
+
+template <class H> H *makeList() {
+    H *hdr = co::make<H>();
+    hdr->elements.adopt(coVectorCreate());
+    return hdr;
+}
+
+// `normalize` gives an element as it is kept.
+template <class H>
+H *tryDecodeList(Lines &lines, Scanner element, coString *(*normalize)(coString const *) = co::asGiven) {
+    co::Ref<H> hdr(makeList<H>());
+    auto const add = [&](coString *read) {
+        co::Ref<coString> const text(read);
+        co::appendTaken(hdr->elements.address(), co::header(normalize(text.get())));
+    };
+    return readElements(lines, element, quill___SkipComma, add) ? hdr.take() : nullptr;
+}
+
+// A raw header with a line for each text; the vector is shared.
+struct quillMessageHeader *makeHeaderOfLines(coString *name, coVector *texts);
+
+template <class H> void clearList(H **hdr) { coVectorClear(co::writable(hdr)->elements.address()); }
+
+template <class H> void deleteElement(H **hdr, int64_t index) {
+    coVectorDelAt(co::writable(hdr)->elements.address(), index);
+}
+
+// Where an element can be put in.
+template <class H> coVector **placeOfElements(H **hdr) {
+    H *own = co::writable(hdr);
+    own->onElement();
+    return own->elements.address();
+}
+
+// They take the element over.
+template <class H> void setElement(H **hdr, int64_t index, coString *taken) {
+    co::Ref<coString> const element(taken);
+    coVectorSetStringAt(placeOfElements(hdr), index, element.get());
+}
+template <class H> void prependElement(H **hdr, coString *taken) {
+    co::Ref<coString> const element(taken);
+    coVectorPrependString(placeOfElements(hdr), element.get());
+}
+template <class H> void appendElement(H **hdr, coString *taken) {
+    co::appendTaken(placeOfElements(hdr), co::header(taken));
+}
+template <class H> void insertElement(H **hdr, int64_t index, coString *taken) {
+    co::Ref<coString> const element(taken);
+    coVectorInsertString(placeOfElements(hdr), index, element.get());
+}
+
+// One element, owned by the caller.
+inline coString *elementAt(ListHeader const *hdr, int64_t index) {
+    return coStringFrom(coVectorObjAt(hdr->elements.get(), index));
+}
+
+// The value that one element holds, or null.
+template <class T> T *tryDecodeElement(ListHeader const *hdr, int64_t index, T *(*tryDecode)(coChar const *, int64_t)) {
+    co::Ref<coString> const element(elementAt(hdr, index));
+    return tryDecode(element->chars(), element->length);
+}
+
+// Sets
+
+struct SetHeader : coObj {
+    co::Slot<coDict> tokens; // never null; each key is its own value
+    static constexpr auto members() { return std::tuple(&SetHeader::tokens); }
+    static constexpr auto comparison() { return members(); }
+};
+
+template <class H> H *makeSet() {
+    H *hdr = co::make<H>();
+    hdr->tokens.adopt(coDictCreate());
+    return hdr;
+}
+
+// These take a token in its normal form over.
+template <class H> void addToken(H *own, coString *taken) {
+    co::Ref<coString> const token(taken);
+    coDictSetStringKey(own->tokens.address(), token.get(), token.get());
+}
+template <class H> void deleteToken(H *own, coString *taken) {
+    co::Ref<coString> const token(taken);
+    coDictDelStringKey(own->tokens.address(), token.get());
+}
+inline bool hasToken(SetHeader const *hdr, coString *taken) {
+    co::Ref<coString> const token(taken);
+    return coDictHasStringKey(hdr->tokens.get(), token.get());
+}
+
+template <class H>
+H *tryDecodeSet(Lines &lines, Scanner token, Scanner separator, coString *(*normalize)(coString const *)) {
+    co::Ref<H> hdr(makeSet<H>());
+    auto const add = [&](coString *read) {
+        co::Ref<coString> const text(read);
+        addToken(hdr.get(), normalize(text.get()));
+    };
+    return readElements(lines, token, separator, add) ? hdr.take() : nullptr;
+}
+
+// Calls `set` with the text of each object of a vector.
+template <class H> void setEach(H **hdr, coVector const *vec, void (*set)(H **, coString *)) {
+    for (int64_t i = 0; i < vec->length; i++) {
+        co::Ref<coString> const text(coObjToString(vec->at(i)));
+        set(hdr, text.get());
+    }
+}
+
+// All texts of a vector, or keys of a dictionary, on one line; no line where there are none.
+struct quillMessageHeader *makeHeaderOfJoined(coString *name, coVector const *texts, co::Chars delimiter);
+struct quillMessageHeader *makeHeaderOfJoined(coString *name, coDict const *keys, co::Chars delimiter);
+
+inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, value, 10, 0, false, co::Case::lower); }
+
+} // namespace quill
+
+// What every header has: its name, family, copy, comparison, text, stores and its place in messages. The shape defines
+// Encode, and what reads the lines of a raw header, or those of a message straight from its received bytes:
+//
+//     static struct quillHeader<Type> *tryDecodeLines(quill::Lines &lines);
+#define QUILL_DEFINE_HEADER(Type, SORT)                                                                                \
+    struct coString *quill___Cos##Type;                                                                                \
+    void quill___Header##Type##Startup(void) {                                                                         \
+        quill::start(&quill___Cos##Type, coStringCreateFromCstr(quill::field::Type, -1));                              \
+    }                                                                                                                  \
+    void quill___Header##Type##Shutdown(void) { quill::stop(&quill___Cos##Type); }                                     \
+    QUILL_DEFINE_HEADER_OBJECT(Type, SORT)
+
+// The same for a header with static objects besides its name.
+#define QUILL_DEFINE_HEADER_OBJECT(Type, SORT)                                                                         \
+    QUILL_DEFINE_SORT(Header##Type, HEADER_##SORT, quill___Header##Type##CompareFunc,                                  \
+                      quill___Header##Type##ToStringFunc)                                                              \
+    QUILL_DEFINE_CREATE_FROM(Header##Type)                                                                             \
+    QUILL_DEFINE_COMPARE(Header##Type, hdrA, hdrB)                                                                     \
+    struct coString *quill___Header##Type##ToStringFunc(struct coObj const *obj) {                                     \
+        co::Ref<struct quillMessageHeader> const header(quillHeader##Type##Encode(quillHeader##Type##From(obj)));      \
+        return quill::textOfLines(header.get());                                                                       \
+    }                                                                                                                  \
+    struct coStore *quillHeader##Type##Store(struct quillHeader##Type const *hdr) {                                    \
+        co::Ref<struct quillMessageHeader> const header(quillHeader##Type##Encode(hdr));                               \
+        return quillMessageHeaderStoreLines(header.get());                                                             \
+    }                                                                                                                  \
+    struct quillHeader##Type *quillHeader##Type##TryRestore(struct coStore const *store) {                             \
+        CO_ASSERT_GIVEN(store);                                                                                        \
+        co::Ref<struct quillMessageHeader> const header(quillMessageHeaderRestoreLines(quill___Cos##Type, store));     \
+        return quillHeader##Type##TryDecode(header.get());                                                             \
+    }                                                                                                                  \
+    bool quillHeader##Type##PresentInMessage(struct quillMessage const *msg) {                                         \
+        return quillMessageHasHeader(msg, quill___Cos##Type);                                                          \
+    }                                                                                                                  \
+    void quillHeader##Type##EncodeToMessage(struct quillHeader##Type const *hdr, struct quillMessage **msg) {          \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        CO_ASSERT_REFERENCE(msg);                                                                                      \
+        co::Ref<struct quillMessageHeader> const header(quillHeader##Type##Encode(hdr));                               \
+        quillMessageSetHeader(msg, header.get());                                                                      \
+    }                                                                                                                  \
+    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines);                                              \
+    struct quillHeader##Type *quillHeader##Type##TryDecode(struct quillMessageHeader const *header) {                  \
+        CO_ASSERT(quillMessageHeaderNameEquals(header, quill___Cos##Type),                                             \
+                  "quillMessageHeaderNameEquals( header, quill___Cos" #Type " )");                                     \
+        quill::Lines lines(header);                                                                                    \
+        return tryDecodeLines(lines);                                                                                  \
+    }                                                                                                                  \
+    struct quillHeader##Type *quillHeader##Type##TryDecodeFromMessage(struct quillMessage const *msg) {                \
+        CO_ASSERT_GIVEN(msg);                                                                                          \
+        quill::Lines lines(quill::headersOf(msg), quill::known::Type);                                                 \
+        return lines.count() > 0 ? tryDecodeLines(lines) : nullptr;                                                    \
+    }                                                                                                                  \
+    void quillHeader##Type##RemoveFromMessage(struct quillMessage **msg) {                                             \
+        quillMessageDelHeader(msg, quill___Cos##Type);                                                                 \
+    }
+
+// A single value. The unit defines, besides the struct and its members,
+//
+//     static void appendValue(coString **text, struct quillHeader<Type> const *hdr);
+//     static struct quillHeader<Type> *tryDecodeValue(co::Chars line);
+#define QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                          \
+    QUILL_DEFINE_HEADER(Type, SORT)                                                                                    \
+    QUILL_DEFINE_VALUE_HEADER_CODEC(Type)
+
+#define QUILL_DEFINE_VALUE_HEADER_CODEC(Type)                                                                          \
+    static void appendValue(coString **text, struct quillHeader##Type const *hdr);                                     \
+    static struct quillHeader##Type *tryDecodeValue(co::Chars line);                                                   \
+    struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        coString *line = coStringCreate();                                                                             \
+        appendValue(&line, hdr);                                                                                       \
+        return quill::makeHeaderOfLine(quill___Cos##Type, line);                                                       \
+    }                                                                                                                  \
+    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
+        co::Chars line;                                                                                                \
+        return lines.last(&line) ? tryDecodeValue(line) : nullptr;                                                     \
+    }
+
+// A list: the struct, its creation, and what all lists have.
+#define QUILL_DEFINE_LIST_OBJECT(Type, SORT)                                                                           \
+    struct quillHeader##Type : quill::ListHeader {                                                                     \
+        static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
+    };                                                                                                                 \
+    QUILL_DEFINE_HEADER(Type, SORT)                                                                                    \
+    QUILL_DEFINE_LIST_CREATE(Type)
+
+#define QUILL_DEFINE_LIST_CREATE(Type)                                                                                 \
+    struct quillHeader##Type *quillHeader##Type##Create(void) {                                                        \
+        return quill::makeList<struct quillHeader##Type>();                                                            \
+    }
+
+// One line for each element on writing; any number of elements on a line on reading.
+#define QUILL_DEFINE_LIST_CODEC(Type, skip)                                                                            \
+    struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        return quill::makeHeaderOfLines(quill___Cos##Type, hdr->elements.get());                                       \
+    }                                                                                                                  \
+    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
+        return quill::tryDecodeList<struct quillHeader##Type>(lines, skip);                                            \
+    }
+
+#define QUILL_DEFINE_LIST_CLEAR(Type, Clear)                                                                           \
+    void quillHeader##Type##Clear(struct quillHeader##Type **hdr) {                                                    \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        quill::clearList(hdr);                                                                                         \
+    }
+
+#define QUILL_DEFINE_LIST_LENGTH_AND_DEL(Type, Element)                                                                \
+    int64_t quillHeader##Type##Element##sLength(struct quillHeader##Type const *hdr) {                                 \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        return hdr->elements->length;                                                                                  \
+    }                                                                                                                  \
+    void quillHeader##Type##Del##Element##At(struct quillHeader##Type **hdr, int64_t index) {                          \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        quill::deleteElement(hdr, index);                                                                              \
+    }
+
+// The operations that put an element in. `Value` is what the interface takes, `text` makes the element's text of it,
+// with the value's own assertions.
+#define QUILL_DEFINE_LIST_SETTERS(Type, Element, Value, value, text)                                                   \
+    void quillHeader##Type##Set##Element##At(struct quillHeader##Type **hdr, int64_t index, Value value) {             \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        quill::setElement(hdr, index, text(value));                                                                    \
+    }                                                                                                                  \
+    void quillHeader##Type##Prepend##Element(struct quillHeader##Type **hdr, Value value) {                            \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        quill::prependElement(hdr, text(value));                                                                       \
+    }                                                                                                                  \
+    void quillHeader##Type##Append##Element(struct quillHeader##Type **hdr, Value value) {                             \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        quill::appendElement(hdr, text(value));                                                                        \
+    }                                                                                                                  \
+    void quillHeader##Type##Insert##Element(struct quillHeader##Type **hdr, int64_t index, Value value) {              \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        quill::insertElement(hdr, index, text(value));                                                                 \
+    }
+
+// A list of quill<Value>: an element is encoded when it is put in and decoded each time it is asked for.
+#define QUILL_DEFINE_VALUE_LIST_ACCESS(Type, Element, Value, value)                                                    \
+    QUILL_DEFINE_LIST_LENGTH_AND_DEL(Type, Element)                                                                    \
+    struct quill##Value *quillHeader##Type##TryDecode##Element##At(struct quillHeader##Type const *hdr,                \
+                                                                   int64_t index) {                                    \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        return quill::tryDecodeElement(hdr, index, quill___##Value##TryDecode);                                        \
+    }                                                                                                                  \
+    QUILL_DEFINE_LIST_SETTERS(Type, Element, struct quill##Value const *, value, quill___##Value##Encode)
+
+#define QUILL_DEFINE_VALUE_LIST_HEADER(Type, SORT, Element, value, skip)                                               \
+    QUILL_DEFINE_LIST_OBJECT(Type, SORT)                                                                               \
+    QUILL_DEFINE_LIST_CODEC(Type, skip)                                                                                \
+    QUILL_DEFINE_LIST_CLEAR(Type, Clear##Element##s)                                                                   \
+    QUILL_DEFINE_VALUE_LIST_ACCESS(Type, Element, Element, value)
+
+// A list of scalars: an element is its text. `normalize` gives it as it is kept, co::asGiven where that is itself.
+#define QUILL_DEFINE_SCALAR_LIST_ACCESS(Type, Element, value, normalize)                                               \
+    static coString *checked(coString *value) {                                                                        \
+        CO_ASSERT_OK(quill##Element##Ok, value);                                                                       \
+        return normalize(value);                                                                                       \
+    }                                                                                                                  \
+    QUILL_DEFINE_LIST_LENGTH_AND_DEL(Type, Element)                                                                    \
+    struct coString *quillHeader##Type##Element##At(struct quillHeader##Type const *hdr, int64_t index) {              \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        return quill::elementAt(hdr, index);                                                                           \
+    }                                                                                                                  \
+    QUILL_DEFINE_LIST_SETTERS(Type, Element, struct coString *, value, checked)
+
+#define QUILL_DEFINE_SCALAR_LIST_HEADER(Type, SORT, Element, value, skip)                                              \
+    QUILL_DEFINE_LIST_OBJECT(Type, SORT)                                                                               \
+    QUILL_DEFINE_LIST_CODEC(Type, skip)                                                                                \
+    QUILL_DEFINE_LIST_CLEAR(Type, Clear##Element##s)                                                                   \
+    QUILL_DEFINE_SCALAR_LIST_ACCESS(Type, Element, value, co::asGiven)
+
+// A set of tokens on one line. `normalize` gives a token as it is kept, co::asGiven where that is itself.
+#define QUILL_DEFINE_SET_HEADER(Type, SORT, Token, token, skip, normalize, separator, delimiter)                       \
+    struct quillHeader##Type : quill::SetHeader {                                                                      \
+        static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
+    };                                                                                                                 \
+    QUILL_DEFINE_HEADER(Type, SORT)                                                                                    \
+    struct quillHeader##Type *quillHeader##Type##Create(void) {                                                        \
+        return quill::makeSet<struct quillHeader##Type>();                                                             \
+    }                                                                                                                  \
+    struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        return quill::makeHeaderOfJoined(quill___Cos##Type, hdr->tokens.get(), delimiter);                             \
+    }                                                                                                                  \
+    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
+        return quill::tryDecodeSet<struct quillHeader##Type>(lines, skip, separator, normalize);                       \
+    }                                                                                                                  \
+    QUILL_DEFINE_SET_ACCESS(Type, Token, token, normalize)
+
+#define QUILL_DEFINE_SET_ACCESS(Type, Token, token, normalize)                                                         \
+    void quillHeader##Type##Clear##Token##s(struct quillHeader##Type **hdr) {                                          \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        coDictClear(co::writable(hdr)->tokens.address());                                                              \
+    }                                                                                                                  \
+    int64_t quillHeader##Type##Token##sLength(struct quillHeader##Type const *hdr) {                                   \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        return coDictLength(hdr->tokens.get());                                                                        \
+    }                                                                                                                  \
+    struct coString *quillHeader##Type##Token##At(struct quillHeader##Type const *hdr, int64_t index) {                \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        return coDictKeyAt(hdr->tokens.get(), index);                                                                  \
+    }                                                                                                                  \
+    struct coVector *quillHeader##Type##Token##sVector(struct quillHeader##Type const *hdr) {                          \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        return coDictKeysVector(hdr->tokens.get());                                                                    \
+    }                                                                                                                  \
+    bool quillHeader##Type##Has##Token(struct quillHeader##Type const *hdr, struct coString const *token) {            \
+        CO_ASSERT_GIVEN(hdr);                                                                                          \
+        CO_ASSERT_OK(quill##Token##Ok, token);                                                                         \
+        return quill::hasToken(hdr, normalize(token));                                                                 \
+    }                                                                                                                  \
+    void quillHeader##Type##Set##Token(struct quillHeader##Type **hdr, struct coString *token) {                       \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        CO_ASSERT_OK(quill##Token##Ok, token);                                                                         \
+        quill::addToken(co::writable(hdr), normalize(token));                                                          \
+    }                                                                                                                  \
+    void quillHeader##Type##Set##Token##sVector(struct quillHeader##Type **hdr, struct coVector const *vec) {          \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        CO_ASSERT_GIVEN(vec);                                                                                          \
+        quillHeader##Type##Clear##Token##s(hdr);                                                                       \
+        quill::setEach(hdr, vec, quillHeader##Type##Set##Token);                                                       \
+    }                                                                                                                  \
+    void quillHeader##Type##Del##Token(struct quillHeader##Type **hdr, struct coString const *token) {                 \
+        CO_ASSERT_REFERENCE(hdr);                                                                                      \
+        CO_ASSERT_OK(quill##Token##Ok, token);                                                                         \
+        quill::deleteToken(co::writable(hdr), normalize(token));                                                       \
+    }
+
+#define QUILL_DEFINE_SET_TEXT_FORMS(Type, Token, token)                                                                \
+    CO_DEFINE_TEXT_FORMS_1(bool, quillHeader##Type##Has##Token, struct quillHeader##Type const *, hdr, token)          \
+    CO_DEFINE_TEXT_FORMS_1(void, quillHeader##Type##Set##Token, struct quillHeader##Type **, hdr, token)               \
+    CO_DEFINE_TEXT_FORMS_1(void, quillHeader##Type##Del##Token, struct quillHeader##Type **, hdr, token)
+
+// A single value that is one text, checked as a whole: a line that its validator refuses does not decode.
+#define QUILL_DEFINE_TEXT_HEADER(Type, SORT, Part, part, normalize)                                                    \
+    struct quillHeader##Type : coObj {                                                                                 \
+        static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
+        co::Slot<coString> part; /* never null */                                                                      \
+        static constexpr auto members() { return std::tuple(&quillHeader##Type::part); }                               \
+        static constexpr auto comparison() { return members(); }                                                       \
+    };                                                                                                                 \
+    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    CO_DEFINE_STRING_MEMBER(quillHeader##Type, hdr, Part, part, quill##Part##Ok, part, normalize)                      \
+    static struct quillHeader##Type *makeOf(coString const *part) {                                                    \
+        auto *hdr = co::make<struct quillHeader##Type>();                                                              \
+        hdr->part.adopt(normalize(part));                                                                              \
+        return hdr;                                                                                                    \
+    }                                                                                                                  \
+    struct quillHeader##Type *quillHeader##Type##Create(struct coString *part) {                                       \
+        CO_ASSERT_OK(quill##Part##Ok, part);                                                                           \
+        return makeOf(part);                                                                                           \
+    }                                                                                                                  \
+    static void appendValue(coString **text, struct quillHeader##Type const *hdr) {                                    \
+        co::append(text, hdr->part->view());                                                                           \
+    }                                                                                                                  \
+    static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
+        co::Ref<coString> const text(co::makeString(line));                                                            \
+        return quill##Part##Ok(text.get()) ? makeOf(text.get()) : nullptr;                                             \
+    }
+
+// A single value that is one decimal integer.
+#define QUILL_DEFINE_INTEGER_HEADER(Type, SORT, Part, part)                                                            \
+    struct quillHeader##Type : coObj {                                                                                 \
+        static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
+        co::Int part;                                                                                                  \
+        static constexpr auto members() { return std::tuple(&quillHeader##Type::part); }                               \
+        static constexpr auto comparison() { return members(); }                                                       \
+    };                                                                                                                 \
+    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    CO_DEFINE_INT_MEMBER(quillHeader##Type, hdr, Part, part, quill##Part##Ok, part)                                    \
+    struct quillHeader##Type *quillHeader##Type##Create(int64_t part) {                                                \
+        CO_ASSERT_OK(quill##Part##Ok, part);                                                                           \
+        auto *hdr = co::make<struct quillHeader##Type>();                                                              \
+        hdr->part.set(part);                                                                                           \
+        return hdr;                                                                                                    \
+    }                                                                                                                  \
+    static void appendValue(coString **text, struct quillHeader##Type const *hdr) {                                    \
+        quill::appendDecimal(text, hdr->part.get());                                                                   \
+    }                                                                                                                  \
+    static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
+        int64_t const value = quill::decodeDecimal(line.data(), co::length(line), quill##Part##Ok);                    \
+        return value < 0 ? nullptr : quillHeader##Type##Create(value);                                                 \
+    }

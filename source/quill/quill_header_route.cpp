@@ -1,0 +1,8 @@
+// The Route header field. Grammar and contract: quill_header_route.h.
+
+#define CO_UNIT "source/quill/quill_header_route"
+
+#include <quill/quill_header_family.hpp>
+#include <quill/quill_header_route.h>
+
+QUILL_DEFINE_VALUE_LIST_HEADER(Route, ROUTE, Route, route, quill___SkipRoute)

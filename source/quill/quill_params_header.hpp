@@ -1,0 +1,87 @@
+// Header fields that hold one value and parameters.
+//
+//     value *( SEMI parameter )
+//
+// The unit's struct has its lifted parameters and `genericParams`; `lifted` is their table.
+#pragma once
+
+#include <quill/quill_delta_seconds.h>
+#include <quill/quill_header_family.hpp>
+
+// The value is a text: `skip` measures it, `normalize` gives it as it is kept.
+#define QUILL_DEFINE_TEXT_AND_PARAMS_HEADER(Type, SORT, Part, part, ok, skip, normalize, lifted)                       \
+    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    CO_DEFINE_STRING_MEMBER(quillHeader##Type, hdr, Part, part, ok, part, normalize)                                   \
+    CO_DEFINE_OBJECT_MEMBER(quillHeader##Type, hdr, GenericParams, genericParams, quillGenericParams, genericParams)   \
+    struct quillHeader##Type *quillHeader##Type##Create(struct coString *part) {                                       \
+        CO_ASSERT_OK(ok, part);                                                                                        \
+        auto *hdr = co::make<struct quillHeader##Type>();                                                              \
+        hdr->part.adopt(normalize(part));                                                                              \
+        hdr->genericParams.set(quill::noGenericParams());                                                              \
+        return hdr;                                                                                                    \
+    }                                                                                                                  \
+    static void appendValue(coString **text, struct quillHeader##Type const *hdr) {                                    \
+        co::append(text, hdr->part->view());                                                                           \
+        quill::appendParams(text, *hdr, lifted);                                                                       \
+    }                                                                                                                  \
+    static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
+        co::Ref<coString> const value(quill::takeText(&line, skip));                                                   \
+        return value ? quill::withParams(quillHeader##Type##Create(value.get()), line, lifted) : nullptr;              \
+    }
+
+// The value is a number of seconds.
+#define QUILL_DEFINE_SECONDS_AND_PARAMS_HEADER(Type, SORT, lifted)                                                     \
+    QUILL_DEFINE_SECONDS_AND_PARAMS_MEMBERS(Type, SORT, lifted)                                                        \
+    static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
+        int64_t const deltaSeconds = quill::takeSeconds(&line);                                                        \
+        return deltaSeconds < 0 ? nullptr : quill::withParams(quillHeader##Type##Create(deltaSeconds), line, lifted);  \
+    }
+
+// The same, but for decoding.
+#define QUILL_DEFINE_SECONDS_AND_PARAMS_MEMBERS(Type, SORT, lifted)                                                    \
+    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    CO_DEFINE_INT_MEMBER(quillHeader##Type, hdr, DeltaSeconds, deltaSeconds, quillDeltaSecondsOk, deltaSeconds)        \
+    CO_DEFINE_OBJECT_MEMBER(quillHeader##Type, hdr, GenericParams, genericParams, quillGenericParams, genericParams)   \
+    struct quillHeader##Type *quillHeader##Type##Create(int64_t deltaSeconds) {                                        \
+        CO_ASSERT_OK(quillDeltaSecondsOk, deltaSeconds);                                                               \
+        auto *hdr = co::make<struct quillHeader##Type>();                                                              \
+        hdr->deltaSeconds.set(deltaSeconds);                                                                           \
+        hdr->genericParams.set(quill::noGenericParams());                                                              \
+        return hdr;                                                                                                    \
+    }                                                                                                                  \
+    static void appendValue(coString **text, struct quillHeader##Type const *hdr) {                                    \
+        quill::appendDecimal(text, hdr->deltaSeconds.get());                                                           \
+        quill::appendParams(text, *hdr, lifted);                                                                       \
+    }
+
+namespace quill {
+
+// What the scanner takes at the start of the line, which then goes on behind it; null where that is nothing.
+inline coString *takeText(co::Chars *line, Scanner skip) {
+    int64_t const count = measure(skip, *line);
+    if (count == 0) return nullptr;
+    coString *text = co::makeString(upTo(*line, count));
+    *line = from(*line, count);
+    return text;
+}
+
+// delta-seconds at the start of the line, which then goes on behind them; -1 where there are none.
+inline int64_t takeSeconds(co::Chars *line) {
+    int64_t const count = measure(quill___SkipDeltaSeconds, *line);
+    int64_t const seconds = count ? quill___DeltaSecondsTryDecode(line->data(), count) : -1;
+    *line = from(*line, count);
+    return seconds;
+}
+
+// A new header, given here, with the parameters that make up the rest of its line; null where that is anything else.
+template <class T, class... Rows> T *withParams(T *created, co::Chars rest, std::tuple<Rows...> const &lifted) {
+    co::Ref<T> hdr(created);
+    return takeParams(hdr.get(), rest, lifted) ? hdr.take() : nullptr;
+}
+
+// A parameter that is a number of seconds.
+template <class T> constexpr IntParam<T> secondsParam(co::Chars name, co::Int T::*field) {
+    return {name, quill___SkipDeltaSeconds, quill___DeltaSecondsTryDecode, quill___DeltaSecondsEncode, field};
+}
+
+} // namespace quill
