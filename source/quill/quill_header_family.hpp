@@ -197,10 +197,6 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
         quill::start(&quill___Cos##Type, coStringCreateFromCstr(quill::field::Type, -1));                              \
     }                                                                                                                  \
     void quill___Header##Type##Shutdown(void) { quill::stop(&quill___Cos##Type); }                                     \
-    QUILL_DEFINE_HEADER_OBJECT(Type, SORT)
-
-// The same for a header with static objects besides its name.
-#define QUILL_DEFINE_HEADER_OBJECT(Type, SORT)                                                                         \
     QUILL_DEFINE_SORT(Header##Type, HEADER_##SORT, quill___Header##Type##CompareFunc,                                  \
                       quill___Header##Type##ToStringFunc)                                                              \
     QUILL_DEFINE_CREATE_FROM(Header##Type)                                                                             \
