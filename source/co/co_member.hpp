@@ -5,6 +5,8 @@
 
 #include <co/co_obj.hpp>
 #include <co/co_string.hpp>
+#include <co/co_unicode.hpp>
+#include <functional>
 #include <tuple>
 
 namespace co {
@@ -44,6 +46,74 @@ private:
     T *obj;
 };
 
+// A text: a string, or a piece of the line that the object was read from and keeps (WithLine); null or no piece for
+// absent. A string of a piece is made for whoever asks for one, so that reading makes none that nobody looks at.
+class TextSlot {
+public:
+    Chars view() const { return string ? string->view() : piece(); }
+    explicit operator bool() const { return string || distance; }
+    coString *retained() const {
+        if (string) return co::retained(string);
+        return distance ? makeString(piece()) : nullptr;
+    }
+
+    void set(coString *value) { adopt(co::retained(value)); }
+    void adopt(coString *value) {
+        distance = 0;
+        if (coString *old = std::exchange(string, value)) release(old);
+    }
+    void clear() { adopt(nullptr); }
+
+    // A piece of the line behind the object that this is a member of.
+    void setPiece(Chars text) {
+        clear();
+        distance = static_cast<uint32_t>(text.data() - base());
+        length = static_cast<uint32_t>(text.size());
+    }
+
+    // Of a text that nobody else has seen.
+    void toAsciiLower() {
+        auto *const chs = const_cast<coChar *>(view().data());
+        for (size_t i = 0; i < view().size(); i++) chs[i] = asciiLower(chs[i]);
+    }
+
+    void init() {
+        string = nullptr;
+        distance = length = 0;
+    }
+    void copy(TextSlot const &source) { // of an object whose line is copied as well
+        string = co::retained(source.string);
+        distance = source.distance;
+        length = source.length;
+    }
+    void poison() {
+        if (coString *old = std::exchange(string, co::released<coString>())) release(old);
+    }
+    // Absent before present.
+    int compare(TextSlot const &other) const {
+        if (!*this || !other) return static_cast<bool>(*this) - static_cast<bool>(other);
+        int const order = view().compare(other.view());
+        return (order > 0) - (order < 0);
+    }
+
+private:
+    coChar const *base() const { return reinterpret_cast<coChar const *>(this); }
+    Chars piece() const { return {base() + distance, length}; }
+
+    coString *string;
+    uint32_t distance; // of the piece from this slot, in code points, so that it holds in a copy too; 0 for none
+    uint32_t length;
+};
+
+// An object that keeps the line it was read from, behind its members; an empty one where it was not read.
+struct WithLine : coObj {
+    int64_t lineLength;
+};
+
+inline constexpr int64_t longestLine = INT32_MAX; // that a slot can point into
+
+template <class T> coChar *lineOf(T const *obj) { return reinterpret_cast<coChar *>(const_cast<T *>(obj) + 1); }
+
 // A signed 64-bit integer; -1 for absent.
 class Int {
 public:
@@ -75,16 +145,52 @@ private:
     bool flag;
 };
 
-// A new object of a type with members, all absent.
-template <class T> T *make() {
-    auto *obj = static_cast<T *>(allocateObject(sizeof(T), &T::sort));
+// A new object of a type with members, their values left open, with room for a line.
+template <class T> T *allocateWithLine(int64_t lineLength) {
+    auto const size = static_cast<int64_t>(sizeof(T)) + lineLength * static_cast<int64_t>(sizeof(coChar));
+    auto *obj = static_cast<T *>(allocateObject(size, &T::sort));
+    if constexpr (std::is_base_of_v<WithLine, T>) obj->lineLength = lineLength;
+    return obj;
+}
+
+// A new object of a type with members, all absent; a line is left to be filled.
+template <class T> T *make(int64_t lineLength = 0) {
+    auto *obj = allocateWithLine<T>(lineLength);
     std::apply([&](auto... m) { ((obj->*m).init(), ...); }, T::members());
     return obj;
 }
 
+// A new WithLine, which keeps a copy of the line. The caller goes on with that: what is found there can be kept.
+template <class T> T *makeWithLine(Chars *line) {
+    T *obj = make<T>(length(*line));
+    if (!line->empty()) std::memcpy(lineOf(obj), line->data(), line->size() * sizeof(coChar));
+    *line = chars(lineOf(obj), length(*line));
+    return obj;
+}
+
+// Sets a text of an object: a piece of its line where the text is one, else a string.
+template <class T> void keep(T *obj, TextSlot T::*slot, Chars text) {
+    std::less_equal<> const before; // also of places in different blocks
+    bool const isPiece = before(lineOf(obj), text.data()) && before(text.data(), lineOf(obj) + obj->lineLength) &&
+                         obj->lineLength <= longestLine;
+    if (isPiece)
+        (obj->*slot).setPiece(text);
+    else
+        (obj->*slot).adopt(makeString(text));
+}
+
+// The same of a text whose ASCII letters are to be lower case: a piece is changed where it stands.
+template <class T> void keepLower(T *obj, TextSlot T::*slot, Chars text) {
+    keep(obj, slot, text);
+    (obj->*slot).toAsciiLower();
+}
+
 // A new object that shares the members of another.
 template <class T> T *makeCopy(T const *source) {
-    auto *obj = static_cast<T *>(allocateObject(sizeof(T), &T::sort));
+    int64_t length = 0;
+    if constexpr (std::is_base_of_v<WithLine, T>) length = source->lineLength;
+    T *obj = allocateWithLine<T>(length);
+    std::memcpy(lineOf(obj), lineOf(source), static_cast<size_t>(length) * sizeof(coChar));
     std::apply([&](auto... m) { ((obj->*m).copy(source->*m), ...); }, T::members());
     return obj;
 }

@@ -121,9 +121,11 @@ private:
     }
 };
 
+} // namespace
+
 // Whether both forms of the text are the text itself: an address, or a name without A-labels, U-labels and mappings.
 // So are most names, and these need no more than a look.
-bool isPlain(co::Chars text) {
+bool nx::isPlain(co::Chars text) {
     if (isAddress(text)) return true;
     if (text.empty() || text.size() > longestName + text.ends_with(U'.')) return false;
     while (!text.empty()) {
@@ -134,8 +136,6 @@ bool isPlain(co::Chars text) {
     return true;
 }
 
-} // namespace
-
 coString *nx::tryToUnicode(co::Chars name) {
     if (isPlain(name)) return co::makeString(name);
     Name forms;
@@ -144,12 +144,12 @@ coString *nx::tryToUnicode(co::Chars name) {
 
 bool nxDnsIdnaDomainNameOk(struct coString const *name) {
     CO_ASSERT_GIVEN(name);
-    return isPlain(name->view()) || Name().read(name->view());
+    return nx::isPlain(name->view()) || Name().read(name->view());
 }
 
 struct coString *nxDnsIdnaDomainNameToAscii(struct coString *name) {
     CO_ASSERT_GIVEN(name);
-    if (isPlain(name->view())) return co::retained(name);
+    if (nx::isPlain(name->view())) return co::retained(name);
     Name forms;
     CO_ASSERT(forms.read(name->view()), "nxDnsIdnaDomainNameOk( name )");
     return co::makeString(forms.ascii.view());
@@ -157,7 +157,7 @@ struct coString *nxDnsIdnaDomainNameToAscii(struct coString *name) {
 
 struct coString *nxDnsIdnaDomainNameToUnicode(struct coString *name) {
     CO_ASSERT_GIVEN(name);
-    if (isPlain(name->view())) return co::retained(name);
+    if (nx::isPlain(name->view())) return co::retained(name);
     Name forms;
     CO_ASSERT(forms.read(name->view()), "nxDnsIdnaDomainNameOk( name )");
     return co::makeString(forms.unicode.view());

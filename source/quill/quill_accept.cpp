@@ -12,11 +12,11 @@
 #include <quill/quill_skip.h>
 #include <quill/quill_token.h>
 
-struct quillAccept : coObj {
+struct quillAccept : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_ACCEPT;
 
-    co::Slot<coString> mediaType;               // lower case, absent for "*"
-    co::Slot<coString> mediaSubtype;            // lower case, absent for "*"
+    co::TextSlot mediaType;                     // lower case, absent for "*"
+    co::TextSlot mediaSubtype;                  // lower case, absent for "*"
     co::Slot<quillGenericParams> genericParams; // never null
     co::Int qvalue;                             // thousandths
 
@@ -52,15 +52,15 @@ static constexpr std::tuple lifted{
 struct coString *quill___AcceptEncode(struct quillAccept const *accept) {
     CO_ASSERT_GIVEN(accept);
     coString *text = coStringCreate();
-    co::append(&text, accept->mediaType ? accept->mediaType->view() : U"*");
+    co::append(&text, accept->mediaType ? accept->mediaType.view() : U"*");
     co::append(&text, U"/");
-    co::append(&text, accept->mediaType && accept->mediaSubtype ? accept->mediaSubtype->view() : U"*");
+    co::append(&text, accept->mediaType && accept->mediaSubtype ? accept->mediaSubtype.view() : U"*");
     quill::appendParams(&text, *accept, lifted);
     return text;
 }
 
 // A name at the start of the text, kept in lower case, or a star, which leaves the member absent.
-static int64_t takeNameOrStar(co::Slot<coString> *name, quill::Scanner scan, co::Chars text) {
+static int64_t takeNameOrStar(co::TextSlot *name, quill::Scanner scan, co::Chars text) {
     int64_t const count = quill::measure(scan, text);
     if (count == 0) return quill___SkipChar(text.data(), co::length(text), U'*');
     co::Ref<coString> const found(co::makeString(quill::upTo(text, count)));

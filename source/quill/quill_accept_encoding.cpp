@@ -8,10 +8,10 @@
 #include <quill/quill_lifted.hpp>
 #include <quill/quill_qvalue.h>
 
-struct quillAcceptEncoding : coObj {
+struct quillAcceptEncoding : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_ACCEPT_ENCODING;
 
-    co::Slot<coString> contentCoding;           // lower case, absent for "*"
+    co::TextSlot contentCoding;                 // lower case, absent for "*"
     co::Slot<quillGenericParams> genericParams; // never null
     co::Int qvalue;                             // thousandths
 
@@ -53,7 +53,7 @@ static constexpr std::tuple lifted{
 
 struct coString *quill___AcceptEncodingEncode(struct quillAcceptEncoding const *acceptEncoding) {
     CO_ASSERT_GIVEN(acceptEncoding);
-    coString *text = co::makeString(acceptEncoding->contentCoding ? acceptEncoding->contentCoding->view() : U"*");
+    coString *text = co::makeString(acceptEncoding->contentCoding ? acceptEncoding->contentCoding.view() : U"*");
     quill::appendParams(&text, *acceptEncoding, lifted);
     return text;
 }

@@ -32,10 +32,10 @@
 
 // All of a header field that lifts no parameter.
 #define QUILL_DEFINE_ADDRESS_HEADER(Type, SORT)                                                                        \
-    struct quillHeader##Type : coObj {                                                                                 \
+    struct quillHeader##Type : co::WithLine {                                                                          \
         static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
-        co::Slot<coString> iri; /* never null */                                                                       \
-        co::Slot<coString> displayName;                                                                                \
+        co::TextSlot iri; /* never null */                                                                             \
+        co::TextSlot displayName;                                                                                      \
         co::Slot<quillGenericParams> genericParams; /* never null */                                                   \
         static constexpr auto members() {                                                                              \
             return std::tuple(&quillHeader##Type::iri, &quillHeader##Type::displayName,                                \
@@ -52,12 +52,12 @@
 //
 //     spec = ( name-addr / addr-spec ) *( SEMI ( tag-param / "epid" EQUAL token / generic-param ) )
 #define QUILL_DEFINE_DIALOG_END_HEADER(Type, SORT, Other)                                                              \
-    struct quillHeader##Type : coObj {                                                                                 \
+    struct quillHeader##Type : co::WithLine {                                                                          \
         static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
-        co::Slot<coString> iri; /* never null */                                                                       \
-        co::Slot<coString> displayName;                                                                                \
-        co::Slot<coString> tag;                                                                                        \
-        co::Slot<coString> epid;                                                                                       \
+        co::TextSlot iri; /* never null */                                                                             \
+        co::TextSlot displayName;                                                                                      \
+        co::TextSlot tag;                                                                                              \
+        co::TextSlot epid;                                                                                             \
         co::Slot<quillGenericParams> genericParams; /* never null */                                                   \
         static constexpr auto members() {                                                                              \
             return std::tuple(&quillHeader##Type::iri, &quillHeader##Type::displayName, &quillHeader##Type::tag,       \

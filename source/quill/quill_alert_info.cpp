@@ -5,10 +5,10 @@
 #include <quill/quill_alert_info.h>
 #include <quill/quill_info.hpp>
 
-struct quillAlertInfo : coObj {
+struct quillAlertInfo : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_ALERT_INFO;
 
-    co::Slot<coString> iri;                     // never null
+    co::TextSlot iri;                           // never null
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() { return std::tuple(&quillAlertInfo::iri, &quillAlertInfo::genericParams); }

@@ -8,11 +8,11 @@
 #include <quill/quill_name_addr.hpp>
 #include <quill/quill_purpose.h>
 
-struct quillCallInfo : coObj {
+struct quillCallInfo : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_CALL_INFO;
 
-    co::Slot<coString> iri;                     // never null
-    co::Slot<coString> purpose;                 // lower case
+    co::TextSlot iri;                           // never null
+    co::TextSlot purpose;                       // lower case
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {
@@ -39,17 +39,18 @@ static constexpr std::tuple lifted{
 struct coString *quill___CallInfoEncode(struct quillCallInfo const *callInfo) {
     CO_ASSERT_GIVEN(callInfo);
     coString *text = coStringCreate();
-    quill::appendBracketedIri(&text, callInfo->iri.get());
+    quill::appendBracketedIri(&text, callInfo->iri);
     quill::appendParams(&text, *callInfo, lifted);
     return text;
 }
 
 struct quillCallInfo *quill___CallInfoTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars const text = co::chars(chs, length);
-    co::Ref<coString> iri;
-    int64_t const count = quill::takeBracketedIri(text, &iri);
+    co::Chars text = co::chars(chs, length);
+    co::Ref<quillCallInfo> callInfo(quill::makeParametric<quillCallInfo>(&text));
+    co::Chars uri;
+    int64_t const count = quill::takeBracketedUri(text, &uri);
     if (count == 0) return nullptr;
-    co::Ref<quillCallInfo> callInfo(quill::makeAddress<quillCallInfo>(iri.get()));
+    quill::keepIri(callInfo.get(), uri);
     return quill::takeParams(callInfo.get(), quill::from(text, count), lifted) ? callInfo.take() : nullptr;
 }

@@ -10,20 +10,21 @@
 #include <quill/quill_iri.h>
 #include <quill/quill_name_addr.hpp>
 #include <quill/quill_qvalue.h>
+#include <quill/quill_readers.hpp>
 #include <quill/quill_sip_instance.h>
 
-struct quillContact : coObj {
+struct quillContact : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_CONTACT;
 
-    co::Slot<coString> iri; // never null
-    co::Slot<coString> displayName;
+    co::TextSlot iri; // never null
+    co::TextSlot displayName;
     co::Slot<quillGenericParams> genericParams; // never null
     co::Int qvalue;                             // thousandths
     co::Int expires;                            // seconds
-    co::Slot<coString> rc;
-    co::Slot<coString> mp;
-    co::Slot<coString> np;
-    co::Slot<coString> sipInstance; // in angle brackets, without quotes
+    co::TextSlot rc;
+    co::TextSlot mp;
+    co::TextSlot np;
+    co::TextSlot sipInstance; // in angle brackets, without quotes
     co::Flag sipSrc;
     co::Flag sipSrs;
 
@@ -97,7 +98,11 @@ struct coString *quill___ContactEncode(struct quillContact const *contact) {
     return quill::encodeAddress(*contact, lifted);
 }
 
+struct quillContact *quill::readContact(co::Chars *text) {
+    return readAddress<quillContact>(text, Bare::allowed, lifted);
+}
+
 struct quillContact *quill___ContactTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    return quill::tryDecodeAddress<quillContact>(co::chars(chs, length), quill::Bare::allowed, lifted);
+    return quill::tryReadWhole(co::chars(chs, length), quill::readContact);
 }

@@ -13,16 +13,16 @@
 #include <quill/quill_iri.h>
 #include <quill/quill_name_addr.hpp>
 
-struct quillDiversion : coObj {
+struct quillDiversion : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_DIVERSION;
 
-    co::Slot<coString> iri; // never null
-    co::Slot<coString> displayName;
-    co::Slot<coString> reason; // lower case, like privacy and screen
+    co::TextSlot iri; // never null
+    co::TextSlot displayName;
+    co::TextSlot reason; // lower case, like privacy and screen
     co::Int counter;
     co::Int limit;
-    co::Slot<coString> privacy;
-    co::Slot<coString> screen;
+    co::TextSlot privacy;
+    co::TextSlot screen;
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {
@@ -63,7 +63,7 @@ struct TokenOrQuotedParam {
     coString *(*tryDecode)(coChar const *, int64_t);
     coString *(*encodeValue)(coString *);
     coString *(*normalize)(coString const *);
-    co::Slot<coString> quillDiversion::*field;
+    co::TextSlot quillDiversion::*field;
 
     int64_t take(quillDiversion *diversion, co::Chars text) const {
         int64_t const at = quill::takeNameEqual(text, name);
@@ -75,9 +75,10 @@ struct TokenOrQuotedParam {
     }
     bool isSet(quillDiversion const &diversion) const { return static_cast<bool>(diversion.*field); }
     void encode(coString **text, quillDiversion const &diversion) const {
-        coString *value = (diversion.*field).get();
+        co::Ref<coString> const value((diversion.*field).retained());
         bool const isWritten = quill::isWhole(scan, value->view());
-        quill::appendTakenParam(text, name, isWritten ? co::retained(value) : encodeValue(value));
+        if (isWritten) return quill::appendParam(text, name, value->view());
+        quill::appendTakenParam(text, name, encodeValue(value.get()));
     }
 };
 

@@ -5,10 +5,10 @@
 #include <quill/quill_error_info.h>
 #include <quill/quill_info.hpp>
 
-struct quillErrorInfo : coObj {
+struct quillErrorInfo : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_ERROR_INFO;
 
-    co::Slot<coString> iri;                     // never null
+    co::TextSlot iri;                           // never null
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() { return std::tuple(&quillErrorInfo::iri, &quillErrorInfo::genericParams); }

@@ -6,4 +6,4 @@
 #include <quill/quill_header_call_id.h>
 #include <quill/quill_header_family.hpp>
 
-QUILL_DEFINE_TEXT_HEADER(CallId, CALL_ID, CallId, callId, co::asGiven)
+QUILL_DEFINE_TEXT_HEADER(CallId, CALL_ID, CallId, callId)

@@ -2,8 +2,10 @@
 
 #define CO_UNIT "source/quill/quill_header_contact"
 
+#include <quill/quill_contact.h>
 #include <quill/quill_header_contact.h>
 #include <quill/quill_header_family.hpp>
+#include <quill/quill_readers.hpp>
 
 struct quillHeaderContact : quill::ListHeader {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_CONTACT;
@@ -20,6 +22,10 @@ static int64_t measureContact(coChar const *chs, int64_t length) {
     return quill___SkipStar(chs, length) ? 0 : quill___SkipContact(chs, length);
 }
 
+static quillContact *readUnlessStar(co::Chars *text) {
+    return quill::measure(quill___SkipStar, *text) ? nullptr : quill::readContact(text);
+}
+
 // Whether a star is all that the lines hold.
 static bool isStar(quill::Lines &lines) {
     int64_t stars = 0;
@@ -32,7 +38,7 @@ static bool isStar(quill::Lines &lines) {
 
 QUILL_DEFINE_HEADER(Contact, CONTACT)
 QUILL_DEFINE_LIST_CREATE(Contact)
-QUILL_DEFINE_VALUE_LIST_ACCESS(Contact, Contact, Contact, contact)
+QUILL_DEFINE_VALUE_LIST_ACCESS(Contact, Contact, Contact, contact, quillContactCreateFrom)
 
 void quillHeaderContactClear(struct quillHeaderContact **hdr) {
     CO_ASSERT_REFERENCE(hdr);
@@ -54,12 +60,12 @@ void quillHeaderContactSetStarForm(struct quillHeaderContact **hdr, bool starFor
 struct quillMessageHeader *quillHeaderContactEncode(struct quillHeaderContact const *hdr) {
     CO_ASSERT_GIVEN(hdr);
     if (hdr->starForm.get()) return quill::makeHeaderOfLine(quill___CosContact, co::makeString(U"*"));
-    return quill::makeHeaderOfLines(quill___CosContact, hdr->elements.get());
+    return quill::makeHeaderOfLines(quill___CosContact, hdr->elements.vector());
 }
 
 // A star is no list: what decodes as one need not be looked at for it.
 static quillHeaderContact *tryDecodeLines(quill::Lines &lines) {
-    if (quillHeaderContact *list = quill::tryDecodeList<quillHeaderContact>(lines, measureContact)) return list;
+    if (auto *list = quill::tryDecodeList<quillHeaderContact>(lines, measureContact, readUnlessStar)) return list;
     lines.restart();
     if (!isStar(lines)) return nullptr;
     quillHeaderContact *hdr = quillHeaderContactCreate();

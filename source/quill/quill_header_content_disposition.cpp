@@ -7,11 +7,11 @@
 #include <quill/quill_header_content_disposition.h>
 #include <quill/quill_params_header.hpp>
 
-struct quillHeaderContentDisposition : coObj {
+struct quillHeaderContentDisposition : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_CONTENT_DISPOSITION;
 
-    co::Slot<coString> dispositionType;         // never null, lower case
-    co::Slot<coString> handling;                // lower case
+    co::TextSlot dispositionType;               // never null, lower case
+    co::TextSlot handling;                      // lower case
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {

@@ -13,7 +13,8 @@ QUILL_DEFINE_SCALAR_LIST_ACCESS(ContentEncoding, ContentCoding, contentCoding, q
 // On one line, like a set.
 struct quillMessageHeader *quillHeaderContentEncodingEncode(struct quillHeaderContentEncoding const *hdr) {
     CO_ASSERT_GIVEN(hdr);
-    return quill::makeHeaderOfJoined(quill___CosContentEncoding, hdr->elements.get(), U",");
+    co::Ref<coVector> const codings(hdr->elements.vector());
+    return quill::makeHeaderOfJoined(quill___CosContentEncoding, codings.get(), U",");
 }
 
 static quillHeaderContentEncoding *tryDecodeLines(quill::Lines &lines) {
@@ -23,7 +24,7 @@ static quillHeaderContentEncoding *tryDecodeLines(quill::Lines &lines) {
 
 struct coVector *quillHeaderContentEncodingContentCodingsVector(struct quillHeaderContentEncoding const *hdr) {
     CO_ASSERT_GIVEN(hdr);
-    return hdr->elements.retained();
+    return hdr->elements.vector();
 }
 
 void quillHeaderContentEncodingSetContentCodingsVector(struct quillHeaderContentEncoding **hdr,

@@ -8,11 +8,11 @@
 #include <quill/quill_method.h>
 #include <quill/quill_sequence.hpp>
 
-struct quillHeaderCseq : coObj {
+struct quillHeaderCseq : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_CSEQ;
 
-    co::Int cseq;              // never absent
-    co::Slot<coString> method; // never null
+    co::Int cseq;        // never absent
+    co::TextSlot method; // never null
 
     static constexpr auto members() { return std::tuple(&quillHeaderCseq::cseq, &quillHeaderCseq::method); }
     static constexpr auto comparison() { return members(); }
@@ -23,28 +23,25 @@ CO_DEFINE_INT_MEMBER(quillHeaderCseq, hdr, Cseq, cseq, quillCseqOk, cseq)
 CO_DEFINE_STRING_MEMBER(quillHeaderCseq, hdr, Method, method, quillMethodOk, method, co::asGiven)
 CO_DEFINE_TEXT_FORMS_1(void, quillHeaderCseqSetMethod, struct quillHeaderCseq **, hdr, method)
 
-static quillHeaderCseq *makeOf(int64_t cseq, coString *method) {
+struct quillHeaderCseq *quillHeaderCseqCreate(int64_t cseq, struct coString *method) {
+    CO_ASSERT_OK(quillCseqOk, cseq);
+    CO_ASSERT_OK(quillMethodOk, method);
     auto *hdr = co::make<quillHeaderCseq>();
     hdr->cseq.set(cseq);
     hdr->method.set(method);
     return hdr;
 }
 
-struct quillHeaderCseq *quillHeaderCseqCreate(int64_t cseq, struct coString *method) {
-    CO_ASSERT_OK(quillCseqOk, cseq);
-    CO_ASSERT_OK(quillMethodOk, method);
-    return makeOf(cseq, method);
-}
-
 static void appendValue(coString **text, struct quillHeaderCseq const *hdr) {
     quill::appendDecimal(text, hdr->cseq.get());
     co::append(text, U" ");
-    co::append(text, hdr->method->view());
+    co::append(text, hdr->method.view());
 }
 
 static struct quillHeaderCseq *tryDecodeValue(co::Chars line) {
-    int64_t const cseq = quill::takeNumberAndLws(&line, quillCseqOk);
-    if (cseq < 0 || !quill::isWhole(quill___SkipMethod, line)) return nullptr;
-    co::Ref<coString> const method(co::makeString(line));
-    return makeOf(cseq, method.get());
+    co::Ref<quillHeaderCseq> hdr(co::makeWithLine<quillHeaderCseq>(&line));
+    hdr->cseq.set(quill::takeNumberAndLws(&line, quillCseqOk));
+    if (!hdr->cseq || !quill::isWhole(quill___SkipMethod, line)) return nullptr;
+    co::keep(hdr.get(), &quillHeaderCseq::method, line);
+    return hdr.take();
 }

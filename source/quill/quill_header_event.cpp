@@ -7,11 +7,11 @@
 #include <quill/quill_params_header.hpp>
 #include <quill/quill_token.h>
 
-struct quillHeaderEvent : coObj {
+struct quillHeaderEvent : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_EVENT;
 
-    co::Slot<coString> eventType; // never null
-    co::Slot<coString> id;
+    co::TextSlot eventType; // never null
+    co::TextSlot id;
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {

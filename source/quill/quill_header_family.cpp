@@ -12,8 +12,9 @@ struct quillMessageHeader *makeHeaderOfLine(coString *name, coString *line) {
 }
 
 struct quillMessageHeader *makeHeaderOfLines(coString *name, coVector *texts) {
+    co::Ref<coVector> const taken(texts);
     struct quillMessageHeader *header = quillMessageHeaderCreate(name);
-    quillMessageHeaderSetLinesVector(&header, texts);
+    quillMessageHeaderSetLinesVector(&header, taken.get());
     return header;
 }
 

@@ -8,6 +8,7 @@
 #include <co/co_dict.hpp>
 #include <co/co_store.h>
 #include <co/co_vector.hpp>
+#include <quill/quill_elements.hpp>
 #include <quill/quill_family.hpp>
 #include <quill/quill_lifted.hpp>
 #include <quill/quill_message.h>
@@ -39,19 +40,13 @@ struct quillMessageHeader *makeHeaderOfLine(coString *name, coString *line);
 // No line is the empty text, one line itself, more the text of their vector.
 coString *textOfLines(struct quillMessageHeader const *header);
 
-// The string of an element: that of the line where there is one and the element is all of it.
-inline coString *elementOf(coString const *line, co::Chars element) {
-    return line && co::length(element) == line->length ? co::retained(line) : co::makeString(element);
-}
-
-// Reads elements between separators off every line that is not empty: `element` measures one, `add` takes its string
-// over. False where a line is anything else, or where there is no line.
-template <class Add> bool readElements(Lines &lines, Scanner element, Scanner separator, Add add) {
+// Reads elements between separators off every line that is not empty: `take` has the element at the start of the text
+// and says how many code points it is, 0 for none. False where a line is anything else, or where there is no line.
+template <class Take> bool readElements(Lines &lines, Scanner separator, Take take) {
     for (co::Chars rest; lines.next(&rest);) {
         while (!rest.empty()) {
-            int64_t const count = measure(element, rest);
+            int64_t const count = take(rest);
             if (count == 0) return false;
-            add(elementOf(lines.string(), upTo(rest, count)));
             rest = from(rest, count);
             if (rest.empty()) break;
             int64_t const between = measure(separator, rest);
@@ -65,44 +60,74 @@ template <class Add> bool readElements(Lines &lines, Scanner element, Scanner se
 // Lists
 
 // What a list is. One that has more derives from it too, with a members() of its own.
-struct ListHeader : coObj {
-    co::Slot<coVector> elements; // never null, of strings
+struct ListHeader : co::WithLine {
+    Elements elements;
     static constexpr auto members() { return std::tuple(&ListHeader::elements); }
     static constexpr auto comparison() { return members(); }
     void onElement() {} // is called when an element is put in
 };
 
-template <class H> H *makeList() {
-    H *hdr = co::make<H>();
-    hdr->elements.adopt(coVectorCreate());
-    return hdr;
+// Reads a value at the start of a text, which then goes on behind it; null where there is none that decodes. Where an
+// element ends behind the value, the element's scanner takes just as much.
+template <class T> using ValueReader = T *(*)(co::Chars *text);
+
+// The value that the first element of a list is, when it is what the text holds up to its end or to a comma.
+template <class T> co::Ref<T> tryReadFirst(co::Chars text, ValueReader<T> read, int64_t *count) {
+    co::Chars rest = text;
+    co::Ref<T> value(read(&rest));
+    *count = co::length(text) - co::length(rest);
+    bool const isWhole = value && (rest.empty() || rules::comma(rest) > 0);
+    return isWhole ? std::move(value) : co::Ref<T>();
+}
+
+// Nearly everybody who decodes a list reads its first element: with `read` that is done at once. Elements are kept as
+// they are written.
+template <class H, class T> H *tryDecodeList(Lines &lines, Scanner element, ValueReader<T> read) {
+    co::Ref<H> hdr(co::make<H>(lines.room()));
+    co::Ref<T> first;
+    auto const take = [&](co::Chars text) {
+        int64_t count = 0;
+        if (read && hdr->elements.count() == 0) first = tryReadFirst(text, read, &count);
+        if (!first || hdr->elements.count() > 0) count = measure(element, text);
+        if (count > 0) hdr->elements.append(upTo(text, count), co::lineOf(hdr.get()), hdr->lineLength);
+        return count;
+    };
+    if (!readElements(lines, quill___SkipComma, take)) return nullptr;
+    hdr->elements.adoptFirst(first ? co::header(first.take()) : nullptr);
+    return hdr.take();
+}
+
+template <class H> H *tryDecodeList(Lines &lines, Scanner element) {
+    return tryDecodeList<H, coObj>(lines, element, nullptr);
 }
 
 // `normalize` gives an element as it is kept.
-template <class H>
-H *tryDecodeList(Lines &lines, Scanner element, coString *(*normalize)(coString const *) = co::asGiven) {
-    co::Ref<H> hdr(makeList<H>());
-    auto const add = [&](coString *read) {
-        co::Ref<coString> const text(read);
-        co::appendTaken(hdr->elements.address(), co::header(normalize(text.get())));
+template <class H> H *tryDecodeList(Lines &lines, Scanner element, Normalizer normalize) {
+    co::Ref<H> hdr(co::make<H>());
+    auto const take = [&](co::Chars text) {
+        int64_t const count = measure(element, text);
+        if (count == 0) return count;
+        co::Ref<coString> const found(co::makeString(upTo(text, count)));
+        co::appendTaken(hdr->elements.writable(), co::header(normalize(found.get())));
+        return count;
     };
-    return readElements(lines, element, quill___SkipComma, add) ? hdr.take() : nullptr;
+    return readElements(lines, quill___SkipComma, take) ? hdr.take() : nullptr;
 }
 
-// A raw header with a line for each text; the vector is shared.
+// A raw header with a line for each text, the vector of which is taken over.
 struct quillMessageHeader *makeHeaderOfLines(coString *name, coVector *texts);
 
-template <class H> void clearList(H **hdr) { coVectorClear(co::writable(hdr)->elements.address()); }
+template <class H> void clearList(H **hdr) { co::writable(hdr)->elements.clear(); }
 
 template <class H> void deleteElement(H **hdr, int64_t index) {
-    coVectorDelAt(co::writable(hdr)->elements.address(), index);
+    coVectorDelAt(co::writable(hdr)->elements.writable(), index);
 }
 
 // Where an element can be put in.
 template <class H> coVector **placeOfElements(H **hdr) {
     H *own = co::writable(hdr);
     own->onElement();
-    return own->elements.address();
+    return own->elements.writable();
 }
 
 // They take the element over.
@@ -122,15 +147,14 @@ template <class H> void insertElement(H **hdr, int64_t index, coString *taken) {
     coVectorInsertString(placeOfElements(hdr), index, element.get());
 }
 
-// One element, owned by the caller.
-inline coString *elementAt(ListHeader const *hdr, int64_t index) {
-    return coStringFrom(coVectorObjAt(hdr->elements.get(), index));
-}
-
-// The value that one element holds, or null.
-template <class T> T *tryDecodeElement(ListHeader const *hdr, int64_t index, T *(*tryDecode)(coChar const *, int64_t)) {
-    co::Ref<coString> const element(elementAt(hdr, index));
-    return tryDecode(element->chars(), element->length);
+// The value that one element holds, or null: an object of the caller's own each time.
+template <class T>
+T *tryDecodeElement(ListHeader const *hdr, int64_t index, T *(*tryDecode)(coChar const *, int64_t),
+                    std::type_identity_t<T *(*)(T const *)> createFrom) {
+    coObj const *first = hdr->elements.first();
+    if (createFrom && first && index == 0) return createFrom(reinterpret_cast<T const *>(first));
+    co::Chars const text = hdr->elements.view(index);
+    return tryDecode(text.data(), co::length(text));
 }
 
 // Sets
@@ -164,11 +188,14 @@ inline bool hasToken(SetHeader const *hdr, coString *taken) {
 template <class H>
 H *tryDecodeSet(Lines &lines, Scanner token, Scanner separator, coString *(*normalize)(coString const *)) {
     co::Ref<H> hdr(makeSet<H>());
-    auto const add = [&](coString *read) {
-        co::Ref<coString> const text(read);
-        addToken(hdr.get(), normalize(text.get()));
+    auto const take = [&](co::Chars text) {
+        int64_t const count = measure(token, text);
+        if (count == 0) return count;
+        co::Ref<coString> const found(co::makeString(upTo(text, count)));
+        addToken(hdr.get(), normalize(found.get()));
+        return count;
     };
-    return readElements(lines, token, separator, add) ? hdr.take() : nullptr;
+    return readElements(lines, separator, take) ? hdr.take() : nullptr;
 }
 
 // Calls `set` with the text of each object of a vector.
@@ -271,15 +298,18 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
 
 #define QUILL_DEFINE_LIST_CREATE(Type)                                                                                 \
     struct quillHeader##Type *quillHeader##Type##Create(void) {                                                        \
-        return quill::makeList<struct quillHeader##Type>();                                                            \
+        return co::make<struct quillHeader##Type>();                                                                   \
     }
 
 // One line for each element on writing; any number of elements on a line on reading.
-#define QUILL_DEFINE_LIST_CODEC(Type, skip)                                                                            \
+#define QUILL_DEFINE_LIST_ENCODE(Type)                                                                                 \
     struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        return quill::makeHeaderOfLines(quill___Cos##Type, hdr->elements.get());                                       \
-    }                                                                                                                  \
+        return quill::makeHeaderOfLines(quill___Cos##Type, hdr->elements.vector());                                    \
+    }
+
+#define QUILL_DEFINE_LIST_CODEC(Type, skip)                                                                            \
+    QUILL_DEFINE_LIST_ENCODE(Type)                                                                                     \
     static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
         return quill::tryDecodeList<struct quillHeader##Type>(lines, skip);                                            \
     }
@@ -293,7 +323,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
 #define QUILL_DEFINE_LIST_LENGTH_AND_DEL(Type, Element)                                                                \
     int64_t quillHeader##Type##Element##sLength(struct quillHeader##Type const *hdr) {                                 \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        return hdr->elements->length;                                                                                  \
+        return hdr->elements.count();                                                                                  \
     }                                                                                                                  \
     void quillHeader##Type##Del##Element##At(struct quillHeader##Type **hdr, int64_t index) {                          \
         CO_ASSERT_REFERENCE(hdr);                                                                                      \
@@ -320,21 +350,32 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
         quill::insertElement(hdr, index, text(value));                                                                 \
     }
 
-// A list of quill<Value>: an element is encoded when it is put in and decoded each time it is asked for.
-#define QUILL_DEFINE_VALUE_LIST_ACCESS(Type, Element, Value, value)                                                    \
+// A list of quill<Value>: an element is encoded when it is put in and decoded each time it is asked for, or copied with
+// `createFrom` where it was read with the header, nullptr where that never is.
+#define QUILL_DEFINE_VALUE_LIST_ACCESS(Type, Element, Value, value, createFrom)                                        \
     QUILL_DEFINE_LIST_LENGTH_AND_DEL(Type, Element)                                                                    \
     struct quill##Value *quillHeader##Type##TryDecode##Element##At(struct quillHeader##Type const *hdr,                \
                                                                    int64_t index) {                                    \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        return quill::tryDecodeElement(hdr, index, quill___##Value##TryDecode);                                        \
+        return quill::tryDecodeElement(hdr, index, quill___##Value##TryDecode, createFrom);                            \
     }                                                                                                                  \
     QUILL_DEFINE_LIST_SETTERS(Type, Element, struct quill##Value const *, value, quill___##Value##Encode)
+
+// A list of which the first element is read with the header.
+#define QUILL_DEFINE_READ_VALUE_LIST_HEADER(Type, SORT, Element, value, skip, read)                                    \
+    QUILL_DEFINE_LIST_OBJECT(Type, SORT)                                                                               \
+    QUILL_DEFINE_LIST_ENCODE(Type)                                                                                     \
+    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
+        return quill::tryDecodeList<struct quillHeader##Type>(lines, skip, read);                                      \
+    }                                                                                                                  \
+    QUILL_DEFINE_LIST_CLEAR(Type, Clear##Element##s)                                                                   \
+    QUILL_DEFINE_VALUE_LIST_ACCESS(Type, Element, Element, value, quill##Element##CreateFrom)
 
 #define QUILL_DEFINE_VALUE_LIST_HEADER(Type, SORT, Element, value, skip)                                               \
     QUILL_DEFINE_LIST_OBJECT(Type, SORT)                                                                               \
     QUILL_DEFINE_LIST_CODEC(Type, skip)                                                                                \
     QUILL_DEFINE_LIST_CLEAR(Type, Clear##Element##s)                                                                   \
-    QUILL_DEFINE_VALUE_LIST_ACCESS(Type, Element, Element, value)
+    QUILL_DEFINE_VALUE_LIST_ACCESS(Type, Element, Element, value, nullptr)
 
 // A list of scalars: an element is its text. `normalize` gives it as it is kept, co::asGiven where that is itself.
 #define QUILL_DEFINE_SCALAR_LIST_ACCESS(Type, Element, value, normalize)                                               \
@@ -345,7 +386,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     QUILL_DEFINE_LIST_LENGTH_AND_DEL(Type, Element)                                                                    \
     struct coString *quillHeader##Type##Element##At(struct quillHeader##Type const *hdr, int64_t index) {              \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        return quill::elementAt(hdr, index);                                                                           \
+        return hdr->elements.string(index);                                                                            \
     }                                                                                                                  \
     QUILL_DEFINE_LIST_SETTERS(Type, Element, struct coString *, value, checked)
 
@@ -417,31 +458,42 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     CO_DEFINE_TEXT_FORMS_1(void, quillHeader##Type##Set##Token, struct quillHeader##Type **, hdr, token)               \
     CO_DEFINE_TEXT_FORMS_1(void, quillHeader##Type##Del##Token, struct quillHeader##Type **, hdr, token)
 
-// A single value that is one text, checked as a whole: a line that its validator refuses does not decode.
-#define QUILL_DEFINE_TEXT_HEADER(Type, SORT, Part, part, normalize)                                                    \
-    struct quillHeader##Type : coObj {                                                                                 \
+// A single value that is one text: the object, and what is common to both ways of reading it.
+#define QUILL_DEFINE_TEXT_HEADER_OBJECT(Type, SORT, Part, part, normalize)                                             \
+    struct quillHeader##Type : co::WithLine {                                                                          \
         static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
-        co::Slot<coString> part; /* never null */                                                                      \
+        co::TextSlot part; /* never null */                                                                            \
         static constexpr auto members() { return std::tuple(&quillHeader##Type::part); }                               \
         static constexpr auto comparison() { return members(); }                                                       \
     };                                                                                                                 \
     QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
     CO_DEFINE_STRING_MEMBER(quillHeader##Type, hdr, Part, part, quill##Part##Ok, part, normalize)                      \
-    static struct quillHeader##Type *makeOf(coString const *part) {                                                    \
+    struct quillHeader##Type *quillHeader##Type##Create(struct coString *part) {                                       \
+        CO_ASSERT_OK(quill##Part##Ok, part);                                                                           \
         auto *hdr = co::make<struct quillHeader##Type>();                                                              \
         hdr->part.adopt(normalize(part));                                                                              \
         return hdr;                                                                                                    \
     }                                                                                                                  \
-    struct quillHeader##Type *quillHeader##Type##Create(struct coString *part) {                                       \
-        CO_ASSERT_OK(quill##Part##Ok, part);                                                                           \
-        return makeOf(part);                                                                                           \
-    }                                                                                                                  \
     static void appendValue(coString **text, struct quillHeader##Type const *hdr) {                                    \
-        co::append(text, hdr->part->view());                                                                           \
-    }                                                                                                                  \
+        co::append(text, hdr->part.view());                                                                            \
+    }
+
+// The scanner takes the whole line, which is kept as it is given.
+#define QUILL_DEFINE_TEXT_HEADER(Type, SORT, Part, part)                                                               \
+    QUILL_DEFINE_TEXT_HEADER_OBJECT(Type, SORT, Part, part, co::asGiven)                                               \
+    static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
+        if (!quill::isWhole(quill___Skip##Part, line)) return nullptr;                                                 \
+        auto *hdr = co::makeWithLine<struct quillHeader##Type>(&line);                                                 \
+        co::keep(hdr, &quillHeader##Type::part, line);                                                                 \
+        return hdr;                                                                                                    \
+    }
+
+// The validator takes the whole line, which is kept in its normal form.
+#define QUILL_DEFINE_NORMAL_TEXT_HEADER(Type, SORT, Part, part)                                                        \
+    QUILL_DEFINE_TEXT_HEADER_OBJECT(Type, SORT, Part, part, quill##Part##Normalize)                                    \
     static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
         co::Ref<coString> const text(co::makeString(line));                                                            \
-        return quill##Part##Ok(text.get()) ? makeOf(text.get()) : nullptr;                                             \
+        return quill##Part##Ok(text.get()) ? quillHeader##Type##Create(text.get()) : nullptr;                          \
     }
 
 // A single value that is one decimal integer.

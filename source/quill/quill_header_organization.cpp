@@ -6,4 +6,4 @@
 #include <quill/quill_header_organization.h>
 #include <quill/quill_organization.h>
 
-QUILL_DEFINE_TEXT_HEADER(Organization, ORGANIZATION, Organization, organization, quillOrganizationNormalize)
+QUILL_DEFINE_NORMAL_TEXT_HEADER(Organization, ORGANIZATION, Organization, organization)

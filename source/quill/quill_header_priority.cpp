@@ -6,7 +6,7 @@
 #include <quill/quill_header_priority.h>
 #include <quill/quill_priority_value.h>
 
-QUILL_DEFINE_TEXT_HEADER(Priority, PRIORITY, PriorityValue, priorityValue, quillPriorityValueNormalize)
+QUILL_DEFINE_NORMAL_TEXT_HEADER(Priority, PRIORITY, PriorityValue, priorityValue)
 
 // The values that the RFC names.
 
@@ -26,7 +26,7 @@ static struct quillHeaderPriority *createWithValue(co::Chars text) {
     }                                                                                                                  \
     bool quillHeaderPriorityIs##Name(struct quillHeaderPriority const *hdr) {                                          \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        return co::equal(hdr->priorityValue->view(), text);                                                            \
+        return co::equal(hdr->priorityValue.view(), text);                                                             \
     }                                                                                                                  \
     void quillHeaderPrioritySet##Name(struct quillHeaderPriority **hdr) { setValue(hdr, text); }
 

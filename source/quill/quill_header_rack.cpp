@@ -9,12 +9,12 @@
 #include <quill/quill_response_num.h>
 #include <quill/quill_sequence.hpp>
 
-struct quillHeaderRack : coObj {
+struct quillHeaderRack : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_RACK;
 
-    co::Int responseNum;       // never absent
-    co::Int cseq;              // never absent
-    co::Slot<coString> method; // never null
+    co::Int responseNum; // never absent
+    co::Int cseq;        // never absent
+    co::TextSlot method; // never null
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderRack::responseNum, &quillHeaderRack::cseq, &quillHeaderRack::method);
@@ -43,14 +43,15 @@ static void appendValue(coString **text, struct quillHeaderRack const *hdr) {
     co::append(text, U" ");
     quill::appendDecimal(text, hdr->cseq.get());
     co::append(text, U" ");
-    co::append(text, hdr->method->view());
+    co::append(text, hdr->method.view());
 }
 
 static struct quillHeaderRack *tryDecodeValue(co::Chars line) {
-    int64_t const responseNum = quill::takeNumberAndLws(&line, quillResponseNumOk);
-    if (responseNum < 0) return nullptr;
-    int64_t const cseq = quill::takeNumberAndLws(&line, quillCseqOk);
-    if (cseq < 0 || !quill::isWhole(quill___SkipMethod, line)) return nullptr;
-    co::Ref<coString> const method(co::makeString(line));
-    return quillHeaderRackCreate(responseNum, cseq, method.get());
+    co::Ref<quillHeaderRack> hdr(co::makeWithLine<quillHeaderRack>(&line));
+    hdr->responseNum.set(quill::takeNumberAndLws(&line, quillResponseNumOk));
+    if (!hdr->responseNum) return nullptr;
+    hdr->cseq.set(quill::takeNumberAndLws(&line, quillCseqOk));
+    if (!hdr->cseq || !quill::isWhole(quill___SkipMethod, line)) return nullptr;
+    co::keep(hdr.get(), &quillHeaderRack::method, line);
+    return hdr.take();
 }

@@ -6,12 +6,12 @@
 #include <quill/quill_header_referred_by.h>
 #include <quill/quill_sip_clean_msg_id.h>
 
-struct quillHeaderReferredBy : coObj {
+struct quillHeaderReferredBy : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_REFERRED_BY;
 
-    co::Slot<coString> iri; // never null
-    co::Slot<coString> displayName;
-    co::Slot<coString> cid;                     // without its quotes
+    co::TextSlot iri; // never null
+    co::TextSlot displayName;
+    co::TextSlot cid;                           // without its quotes
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {

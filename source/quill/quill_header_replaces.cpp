@@ -7,12 +7,12 @@
 #include <quill/quill_params_header.hpp>
 #include <quill/quill_tag.h>
 
-struct quillHeaderReplaces : coObj {
+struct quillHeaderReplaces : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_REPLACES;
 
-    co::Slot<coString> callId; // never null
-    co::Slot<coString> fromTag;
-    co::Slot<coString> toTag;
+    co::TextSlot callId; // never null
+    co::TextSlot fromTag;
+    co::TextSlot toTag;
     co::Flag earlyOnly;
     co::Slot<quillGenericParams> genericParams; // never null
 

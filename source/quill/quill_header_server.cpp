@@ -6,4 +6,4 @@
 #include <quill/quill_header_server.h>
 #include <quill/quill_server.h>
 
-QUILL_DEFINE_TEXT_HEADER(Server, SERVER, Server, server, co::asGiven)
+QUILL_DEFINE_TEXT_HEADER(Server, SERVER, Server, server)

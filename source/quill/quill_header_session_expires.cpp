@@ -6,11 +6,11 @@
 #include <quill/quill_params_header.hpp>
 #include <quill/quill_refresher.h>
 
-struct quillHeaderSessionExpires : coObj {
+struct quillHeaderSessionExpires : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_SESSION_EXPIRES;
 
     co::Int deltaSeconds;                       // never absent
-    co::Slot<coString> refresher;               // lower case
+    co::TextSlot refresher;                     // lower case
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {

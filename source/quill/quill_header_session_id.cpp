@@ -6,11 +6,11 @@
 #include <quill/quill_params_header.hpp>
 #include <quill/quill_sess_uuid.h>
 
-struct quillHeaderSessionId : coObj {
+struct quillHeaderSessionId : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_SESSION_ID;
 
-    co::Slot<coString> localUuid; // never null
-    co::Slot<coString> remoteUuid;
+    co::TextSlot localUuid; // never null
+    co::TextSlot remoteUuid;
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {

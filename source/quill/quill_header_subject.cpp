@@ -6,4 +6,4 @@
 #include <quill/quill_header_subject.h>
 #include <quill/quill_subject.h>
 
-QUILL_DEFINE_TEXT_HEADER(Subject, SUBJECT, Subject, subject, quillSubjectNormalize)
+QUILL_DEFINE_NORMAL_TEXT_HEADER(Subject, SUBJECT, Subject, subject)

@@ -7,11 +7,11 @@
 #include <quill/quill_params_header.hpp>
 #include <quill/quill_substate_value.h>
 
-struct quillHeaderSubscriptionState : coObj {
+struct quillHeaderSubscriptionState : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_SUBSCRIPTION_STATE;
 
-    co::Slot<coString> substateValue; // never null, lower case
-    co::Slot<coString> reason;        // lower case
+    co::TextSlot substateValue; // never null, lower case
+    co::TextSlot reason;        // lower case
     co::Int expires;
     co::Int retryAfter;
     co::Slot<quillGenericParams> genericParams; // never null

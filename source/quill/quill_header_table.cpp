@@ -452,6 +452,16 @@ co::Chars Lines::widen(uint32_t index) {
     return {chars, static_cast<size_t>(end - chars)};
 }
 
+int64_t Lines::room() const {
+    constexpr int64_t few = 8;
+    constexpr int64_t most = 4096;
+    int64_t length = 0;
+    if (total > few) return 0;
+    for (int64_t i = 0; strings && i < total; i++) length += co::stringAt(strings, i)->length;
+    for (uint32_t i = firstPlace; text && i != noLine; i = text->lines()[i].next) length += text->lines()[i].length;
+    return length <= most ? length : 0;
+}
+
 bool Lines::next(co::Chars *line) {
     if (strings) {
         if (place >= strings->length) return false;

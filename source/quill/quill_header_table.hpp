@@ -100,6 +100,8 @@ public:
     ~Lines();
 
     int64_t count() const { return total; }
+    // How many code points the lines hold at most, where they are few; 0 where they are many.
+    int64_t room() const;
     // The next line, and the last one; good until another is read. False when there is none.
     bool next(co::Chars *line);
     bool last(co::Chars *line);

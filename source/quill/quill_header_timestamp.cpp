@@ -6,4 +6,4 @@
 #include <quill/quill_header_timestamp.h>
 #include <quill/quill_timestamp_value.h>
 
-QUILL_DEFINE_TEXT_HEADER(Timestamp, TIMESTAMP, TimestampValue, timestampValue, co::asGiven)
+QUILL_DEFINE_TEXT_HEADER(Timestamp, TIMESTAMP, TimestampValue, timestampValue)

@@ -6,4 +6,4 @@
 #include <quill/quill_header_user_agent.h>
 #include <quill/quill_user_agent.h>
 
-QUILL_DEFINE_TEXT_HEADER(UserAgent, USER_AGENT, UserAgent, userAgent, co::asGiven)
+QUILL_DEFINE_TEXT_HEADER(UserAgent, USER_AGENT, UserAgent, userAgent)

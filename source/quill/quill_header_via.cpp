@@ -4,5 +4,7 @@
 
 #include <quill/quill_header_family.hpp>
 #include <quill/quill_header_via.h>
+#include <quill/quill_readers.hpp>
+#include <quill/quill_via.h>
 
-QUILL_DEFINE_VALUE_LIST_HEADER(Via, VIA, Via, via, quill___SkipVia)
+QUILL_DEFINE_READ_VALUE_LIST_HEADER(Via, VIA, Via, via, quill___SkipVia, quill::readVia)

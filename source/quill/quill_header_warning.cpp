@@ -8,4 +8,4 @@
 QUILL_DEFINE_LIST_OBJECT(Warning, WARNING)
 QUILL_DEFINE_LIST_CODEC(Warning, quill___SkipWarningValue)
 QUILL_DEFINE_LIST_CLEAR(Warning, WarningsClear)
-QUILL_DEFINE_VALUE_LIST_ACCESS(Warning, Warning, WarningValue, warning)
+QUILL_DEFINE_VALUE_LIST_ACCESS(Warning, Warning, WarningValue, warning, nullptr)

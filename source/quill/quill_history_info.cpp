@@ -9,15 +9,15 @@
 #include <quill/quill_iri.h>
 #include <quill/quill_name_addr.hpp>
 
-struct quillHistoryInfo : coObj {
+struct quillHistoryInfo : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HISTORY_INFO;
 
-    co::Slot<coString> iri; // never null
-    co::Slot<coString> displayName;
-    co::Slot<coString> index; // never null
-    co::Slot<coString> rc;
-    co::Slot<coString> mp;
-    co::Slot<coString> np;
+    co::TextSlot iri; // never null
+    co::TextSlot displayName;
+    co::TextSlot index; // never null
+    co::TextSlot rc;
+    co::TextSlot mp;
+    co::TextSlot np;
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {

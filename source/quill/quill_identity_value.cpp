@@ -8,11 +8,11 @@
 #include <quill/quill_iri.h>
 #include <quill/quill_name_addr.hpp>
 
-struct quillIdentityValue : coObj {
+struct quillIdentityValue : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_IDENTITY_VALUE;
 
-    co::Slot<coString> iri; // never null
-    co::Slot<coString> displayName;
+    co::TextSlot iri; // never null
+    co::TextSlot displayName;
 
     static constexpr auto members() { return std::tuple(&quillIdentityValue::iri, &quillIdentityValue::displayName); }
     static constexpr auto comparison() { return members(); }
@@ -33,17 +33,14 @@ struct quillIdentityValue *quillIdentityValueCreate(struct coString *iri) {
 struct coString *quill___IdentityValueEncode(struct quillIdentityValue const *identityValue) {
     CO_ASSERT_GIVEN(identityValue);
     coString *text = coStringCreate();
-    quill::appendNameAddr(&text, identityValue->displayName.get(), identityValue->iri.get());
+    quill::appendNameAddr(&text, identityValue->displayName, identityValue->iri);
     return text;
 }
 
 struct quillIdentityValue *quill___IdentityValueTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    quill::NameAddr address;
-    int64_t const count = quill::takeNameAddr(co::chars(chs, length), quill::Bare::allowed, &address);
-    if (count == 0 || count != length) return nullptr;
-    auto *identityValue = co::make<quillIdentityValue>();
-    identityValue->iri.adopt(address.iri.take());
-    identityValue->displayName.adopt(address.displayName.take());
-    return identityValue;
+    co::Chars text = co::chars(chs, length);
+    co::Ref<quillIdentityValue> identityValue(co::makeWithLine<quillIdentityValue>(&text));
+    int64_t const count = quill::takeNameAddr(identityValue.get(), text, quill::Bare::allowed);
+    return count > 0 && count == length ? identityValue.take() : nullptr;
 }

@@ -31,13 +31,13 @@
 namespace quill {
 
 struct Info {
-    co::Ref<coString> iri;
+    co::Chars uri;
     co::Ref<quillGenericParams> genericParams;
 };
 
 // Whether the whole text has the form of an info value with a valid IRI; its parts.
 inline bool tryReadInfo(co::Chars text, Info *info) {
-    int64_t const count = takeBracketedIri(text, &info->iri);
+    int64_t const count = takeBracketedUri(text, &info->uri);
     co::Chars const params = from(text, count);
     if (count == 0 || measure(quill___SkipGenericParams, params) != co::length(params)) return false;
     info->genericParams.reset(quill___GenericParamsTryDecode(params.data(), co::length(params)));
@@ -46,14 +46,14 @@ inline bool tryReadInfo(co::Chars text, Info *info) {
 
 template <class T> T *makeInfo(Info *info) {
     T *value = co::make<T>();
-    value->iri.adopt(info->iri.take());
+    value->iri.adopt(loc::makeIri(info->uri));
     value->genericParams.adopt(info->genericParams.take());
     return value;
 }
 
 template <class T> coString *encodeInfo(T const &value) {
     coString *text = coStringCreate();
-    appendBracketedIri(&text, value.iri.get());
+    appendBracketedIri(&text, value.iri);
     appendGenericParams(&text, value.genericParams.get());
     return text;
 }

@@ -23,12 +23,12 @@
 #include <quill/quill_internal.h>
 #include <quill/quill_scalar.hpp>
 #include <quill/quill_skip.h>
+#include <quill/quill_skip.hpp>
 #include <tuple>
 
 namespace quill {
 
 inline int64_t measure(Scanner scan, co::Chars text) { return scan(text.data(), co::length(text)); }
-inline co::Chars from(co::Chars text, int64_t at) { return text.substr(static_cast<size_t>(at)); }
 inline co::Chars upTo(co::Chars text, int64_t count) { return text.substr(0, static_cast<size_t>(count)); }
 
 // A text read piece by piece. Where a scanner finds nothing the whole has failed, and nothing more is taken.
@@ -37,7 +37,10 @@ struct Reader {
     bool failed = false;
 
     co::Chars take(Scanner scan) {
-        int64_t const count = failed ? 0 : measure(scan, rest);
+        return take([scan](co::Chars text) { return measure(scan, text); });
+    }
+    template <class Rule> co::Chars take(Rule rule) {
+        int64_t const count = failed ? 0 : matched(rule(rest));
         failed = count == 0;
         co::Chars const taken = upTo(rest, count);
         rest = from(rest, count);
@@ -45,15 +48,29 @@ struct Reader {
     }
 };
 
-inline int64_t takeName(co::Chars text, co::Chars name) {
-    return quill___SkipCharsAsciiCaseFold(text.data(), co::length(text), name.data(), co::length(name));
-}
+inline int64_t takeName(co::Chars text, co::Chars name) { return matched(foldedPrefix(text, name)); }
 
 // name EQUAL
 inline int64_t takeNameEqual(co::Chars text, co::Chars name) {
     int64_t const at = takeName(text, name);
-    int64_t const equal = at ? measure(quill___SkipEqual, from(text, at)) : 0;
-    return equal ? at + equal : 0;
+    int64_t const sign = at ? matched(rules::equal(from(text, at))) : 0;
+    return sign ? at + sign : 0;
+}
+
+using Normalizer = coString *(*)(coString const *);
+
+// Sets a text of a value that was read, in its normal form.
+template <class T> void keep(T *value, co::TextSlot T::*field, co::Chars text, Normalizer normalize) {
+    if (normalize == co::asGiven) return co::keep(value, field, text);
+    co::Ref<coString> const found(co::makeString(text));
+    (value->*field).adopt(normalize(found.get()));
+}
+
+// A new value without anything but the line that it is to be read from, of which the caller goes on with the value's own.
+template <class T> T *makeParametric(co::Chars *line) {
+    T *value = co::makeWithLine<T>(line);
+    value->genericParams.set(noGenericParams());
+    return value;
 }
 
 inline void appendParam(coString **text, co::Chars name) {
@@ -76,19 +93,17 @@ inline void appendTakenParam(coString **text, co::Chars name, coString *value) {
 template <class T> struct TextParam {
     co::Chars name;
     Scanner scan;
-    co::Slot<coString> T::*field;
-    coString *(*normalize)(coString const *) = co::asGiven;
+    co::TextSlot T::*field;
+    Normalizer normalize = co::asGiven;
 
     int64_t take(T *value, co::Chars text) const {
         int64_t const at = takeNameEqual(text, name);
         int64_t const count = at ? measure(scan, from(text, at)) : 0;
-        if (count == 0) return 0;
-        co::Ref<coString> const found(co::makeString(upTo(from(text, at), count)));
-        (value->*field).adopt(normalize(found.get()));
-        return at + count;
+        if (count > 0) keep(value, field, upTo(from(text, at), count), normalize);
+        return count > 0 ? at + count : 0;
     }
     bool isSet(T const &value) const { return static_cast<bool>(value.*field); }
-    void encode(coString **text, T const &value) const { appendParam(text, name, (value.*field)->view()); }
+    void encode(coString **text, T const &value) const { appendParam(text, name, (value.*field).view()); }
 };
 
 // name EQUAL value, with a decoder and an encoder of the value's own: hosts, quoted strings.
@@ -97,7 +112,7 @@ template <class T> struct CodedParam {
     Scanner scan;
     coString *(*tryDecode)(coChar const *, int64_t);
     coString *(*encodeValue)(coString *);
-    co::Slot<coString> T::*field;
+    co::TextSlot T::*field;
 
     int64_t take(T *value, co::Chars text) const {
         int64_t const at = takeNameEqual(text, name);
@@ -109,7 +124,8 @@ template <class T> struct CodedParam {
     }
     bool isSet(T const &value) const { return static_cast<bool>(value.*field); }
     void encode(coString **text, T const &value) const {
-        appendTakenParam(text, name, encodeValue((value.*field).get()));
+        co::Ref<coString> const decoded((value.*field).retained());
+        appendTakenParam(text, name, encodeValue(decoded.get()));
     }
 };
 
@@ -139,20 +155,20 @@ template <class T> struct IntParam {
 template <class T> struct EnclosedParam {
     co::Chars name;
     Scanner scan;
-    co::Slot<coString> T::*field;
+    co::TextSlot T::*field;
 
     int64_t take(T *value, co::Chars text) const {
         int64_t const at = takeNameEqual(text, name);
         if (at == 0 || !from(text, at).starts_with(U'"')) return 0;
         int64_t const count = measure(scan, from(text, at + 1));
         if (count == 0 || !from(text, at + 1 + count).starts_with(U'"')) return 0;
-        (value->*field).adopt(co::makeString(upTo(from(text, at + 1), count)));
+        co::keep(value, field, upTo(from(text, at + 1), count));
         return at + count + 2;
     }
     bool isSet(T const &value) const { return static_cast<bool>(value.*field); }
     void encode(coString **text, T const &value) const {
         appendParam(text, name, U"\"");
-        co::append(text, (value.*field)->view());
+        co::append(text, (value.*field).view());
         co::append(text, U"\"");
     }
 };
@@ -177,31 +193,42 @@ template <class T> struct FlagParam {
 };
 
 // Which type a row belongs to; clang 14 needs to be told for aggregates.
-template <class T> TextParam(co::Chars, Scanner, co::Slot<coString> T::*) -> TextParam<T>;
+template <class T> TextParam(co::Chars, Scanner, co::TextSlot T::*) -> TextParam<T>;
+template <class T> TextParam(co::Chars, Scanner, co::TextSlot T::*, Normalizer) -> TextParam<T>;
 template <class T>
-TextParam(co::Chars, Scanner, co::Slot<coString> T::*, coString *(*)(coString const *)) -> TextParam<T>;
-template <class T>
-CodedParam(co::Chars, Scanner, coString *(*)(coChar const *, int64_t), coString *(*)(coString *),
-           co::Slot<coString> T::*) -> CodedParam<T>;
+CodedParam(co::Chars, Scanner, coString *(*)(coChar const *, int64_t), coString *(*)(coString *), co::TextSlot T::*)
+    -> CodedParam<T>;
 template <class T>
 IntParam(co::Chars, Scanner, int64_t (*)(coChar const *, int64_t), coString *(*)(int64_t), co::Int T::*) -> IntParam<T>;
-template <class T> EnclosedParam(co::Chars, Scanner, co::Slot<coString> T::*) -> EnclosedParam<T>;
+template <class T> EnclosedParam(co::Chars, Scanner, co::TextSlot T::*) -> EnclosedParam<T>;
 template <class T> FlagParam(co::Chars, Behind, co::Flag T::*) -> FlagParam<T>;
 
-// *( SEMI parameter ) to the end of the text: the first row that matches takes a parameter, or else it is a generic one.
-// False where there is neither.
-template <class T, class... Rows> bool takeParams(T *value, co::Chars text, std::tuple<Rows...> const &lifted) {
-    while (!text.empty()) {
-        int64_t const semi = measure(quill___SkipSemi, text);
-        if (semi == 0) return false;
-        text = from(text, semi);
+// *( SEMI parameter ) at the start of the text: the first row that matches takes a parameter, or else it is a generic
+// one. What is behind the last parameter.
+template <class T, class... Rows> co::Chars readParams(T *value, co::Chars rest, std::tuple<Rows...> const &lifted) {
+    while (!rest.empty()) {
+        co::Chars text = rest;
+        int64_t const separator = matched(rules::semi(text));
+        if (separator == 0) break;
+        text = from(text, separator);
         int64_t count = 0;
         std::apply([&](auto const &...row) { static_cast<void>(((count = row.take(value, text)) || ...)); }, lifted);
         if (count == 0) count = takeGenericParam(value->genericParams.address(), text);
-        if (count == 0) return false;
-        text = from(text, count);
+        if (count == 0) break;
+        rest = from(text, count);
     }
-    return true;
+    return rest;
+}
+
+// Whether the whole text is parameters.
+template <class T, class... Rows> bool takeParams(T *value, co::Chars text, std::tuple<Rows...> const &lifted) {
+    return readParams(value, text, lifted).empty();
+}
+
+// The value that a text is as a whole.
+template <class T> T *tryReadWhole(co::Chars text, T *(*read)(co::Chars *)) {
+    co::Ref<T> value(read(&text));
+    return text.empty() ? value.take() : nullptr;
 }
 
 // The lifted parameters that are set, then the generic ones but for those of the same names.

@@ -4,29 +4,36 @@
 //     addr-spec = URI without header parameters
 #pragma once
 
+#include <co/co_assert.hpp>
+#include <loc/loc_iri.hpp>
+#include <quill/quill_display_name.h>
 #include <quill/quill_lifted.hpp>
 
 namespace quill {
 
-struct NameAddr {
-    co::Ref<coString> iri;
-    co::Ref<coString> displayName; // null where there is none
-};
-
 enum class Bare { allowed, refused }; // an addr-spec without brackets
 
+// An address as it is written.
+struct NameAddr {
+    co::Chars displayName; // empty where there is none
+    co::Chars uri;
+};
+
 // How many code points at the start of the text the address takes; 0 where there is none, or none that can be an IRI.
-int64_t takeNameAddr(co::Chars text, Bare bare, NameAddr *address);
+int64_t measureNameAddr(co::Chars text, Bare bare, NameAddr *address);
 
 // LAQUOT URI RAQUOT
-int64_t takeBracketedIri(co::Chars text, co::Ref<coString> *iri);
+int64_t takeBracketedUri(co::Chars text, co::Chars *uri);
+
+// The text of a display name that says the same when it stands without quotes; false where it must be decoded.
+bool isPlainDisplayName(co::Chars written, co::Chars *plain);
 
 // The URI in angle brackets.
-void appendBracketedIri(coString **text, coString const *iri);
+void appendBracketedIri(coString **text, co::TextSlot const &iri);
 
 // The display name in quotes and a space where there is one, and the URI in angle brackets always, so that what stands
 // in it cannot be misread.
-void appendNameAddr(coString **text, coString const *displayName, coString const *iri);
+void appendNameAddr(coString **text, co::TextSlot const &displayName, co::TextSlot const &iri);
 
 // What follows is for types with an IRI, generic parameters and, but for makeAddress, a display name among their members.
 
@@ -38,9 +45,33 @@ template <class T> T *makeAddress(coString *iri) {
     return value;
 }
 
+// Most URIs are their own IRIs.
+template <class T> void keepIri(T *value, co::Chars uri) {
+    if (uri.find(U'%') == co::Chars::npos)
+        co::keep(value, &T::iri, uri);
+    else
+        value->iri.adopt(loc::makeIri(uri));
+}
+
+template <class T> void keepDisplayName(T *value, co::Chars written) {
+    if (co::Chars plain; isPlainDisplayName(written, &plain)) return co::keep(value, &T::displayName, plain);
+    value->displayName.adopt(quill___DisplayNameTryDecode(written.data(), co::length(written)));
+    CO_ASSERT(value->displayName, "displayName"); // what the scanner takes can be read
+}
+
+// The address at the start of the text into the value; how many code points it takes, 0 for none.
+template <class T> int64_t takeNameAddr(T *value, co::Chars text, Bare bare) {
+    NameAddr address;
+    int64_t const count = measureNameAddr(text, bare, &address);
+    if (count == 0) return 0;
+    keepIri(value, address.uri);
+    if (!address.displayName.empty()) keepDisplayName(value, address.displayName);
+    return count;
+}
+
 template <class T, class... Rows>
 void appendAddress(coString **text, T const &value, std::tuple<Rows...> const &lifted) {
-    appendNameAddr(text, value.displayName.get(), value.iri.get());
+    appendNameAddr(text, value.displayName, value.iri);
     appendParams(text, value, lifted);
 }
 
@@ -50,14 +81,20 @@ template <class T, class... Rows> coString *encodeAddress(T const &value, std::t
     return text;
 }
 
-// A new value from its address and parameters, or null.
-template <class T, class... Rows> T *tryDecodeAddress(co::Chars text, Bare bare, std::tuple<Rows...> const &lifted) {
-    NameAddr address;
-    int64_t const count = takeNameAddr(text, bare, &address);
+// A new value from the address and the parameters at the start of a text, which then goes on behind them, or null.
+template <class T, class... Rows> T *readAddress(co::Chars *text, Bare bare, std::tuple<Rows...> const &lifted) {
+    co::Chars line = *text;
+    co::Ref<T> value(makeParametric<T>(&line));
+    int64_t const count = takeNameAddr(value.get(), line, bare);
     if (count == 0) return nullptr;
-    co::Ref<T> value(makeAddress<T>(address.iri.get()));
-    value->displayName.adopt(address.displayName.take());
-    return takeParams(value.get(), from(text, count), lifted) ? value.take() : nullptr;
+    *text = from(*text, co::length(line) - co::length(readParams(value.get(), from(line, count), lifted)));
+    return value.take();
+}
+
+// The same of a whole text.
+template <class T, class... Rows> T *tryDecodeAddress(co::Chars text, Bare bare, std::tuple<Rows...> const &lifted) {
+    co::Ref<T> value(readAddress<T>(&text, bare, lifted));
+    return text.empty() ? value.take() : nullptr;
 }
 
 } // namespace quill

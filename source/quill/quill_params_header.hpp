@@ -21,12 +21,15 @@
         return hdr;                                                                                                    \
     }                                                                                                                  \
     static void appendValue(coString **text, struct quillHeader##Type const *hdr) {                                    \
-        co::append(text, hdr->part->view());                                                                           \
+        co::append(text, hdr->part.view());                                                                            \
         quill::appendParams(text, *hdr, lifted);                                                                       \
     }                                                                                                                  \
     static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
-        co::Ref<coString> const value(quill::takeText(&line, skip));                                                   \
-        return value ? quill::withParams(quillHeader##Type##Create(value.get()), line, lifted) : nullptr;              \
+        co::Ref<struct quillHeader##Type> hdr(quill::makeParametric<struct quillHeader##Type>(&line));                 \
+        int64_t const count = quill::measure(skip, line);                                                              \
+        if (count == 0) return nullptr;                                                                                \
+        quill::keep(hdr.get(), &quillHeader##Type::part, quill::upTo(line, count), normalize);                         \
+        return quill::takeParams(hdr.get(), quill::from(line, count), lifted) ? hdr.take() : nullptr;                  \
     }
 
 // The value is a number of seconds.
@@ -55,15 +58,6 @@
     }
 
 namespace quill {
-
-// What the scanner takes at the start of the line, which then goes on behind it; null where that is nothing.
-inline coString *takeText(co::Chars *line, Scanner skip) {
-    int64_t const count = measure(skip, *line);
-    if (count == 0) return nullptr;
-    coString *text = co::makeString(upTo(*line, count));
-    *line = from(*line, count);
-    return text;
-}
 
 // delta-seconds at the start of the line, which then goes on behind them; -1 where there are none.
 inline int64_t takeSeconds(co::Chars *line) {

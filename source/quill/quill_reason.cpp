@@ -9,12 +9,12 @@
 #include <quill/quill_reason_protocol.h>
 #include <quill/quill_reason_text.h>
 
-struct quillReason : coObj {
+struct quillReason : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_REASON;
 
-    co::Slot<coString> protocol;                // never null
-    co::Slot<coString> cause;                   // digits
-    co::Slot<coString> text;                    // without quotes
+    co::TextSlot protocol;                      // never null
+    co::TextSlot cause;                         // digits
+    co::TextSlot text;                          // without quotes
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {
@@ -52,17 +52,17 @@ static constexpr std::tuple lifted{
 
 struct coString *quill___ReasonEncode(struct quillReason const *reason) {
     CO_ASSERT_GIVEN(reason);
-    coString *text = co::makeString(reason->protocol->view());
+    coString *text = co::makeString(reason->protocol.view());
     quill::appendParams(&text, *reason, lifted);
     return text;
 }
 
 struct quillReason *quill___ReasonTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars const text = co::chars(chs, length);
+    co::Chars text = co::chars(chs, length);
     int64_t const count = quill::measure(quill___SkipReasonProtocol, text);
     if (count == 0) return nullptr;
-    co::Ref<coString> const protocol(co::makeString(quill::upTo(text, count)));
-    co::Ref<quillReason> reason(quillReasonCreate(protocol.get()));
+    co::Ref<quillReason> reason(quill::makeParametric<quillReason>(&text));
+    co::keep(reason.get(), &quillReason::protocol, quill::upTo(text, count));
     return quill::takeParams(reason.get(), quill::from(text, count), lifted) ? reason.take() : nullptr;
 }

@@ -6,13 +6,14 @@
 #include <quill/quill_family.hpp>
 #include <quill/quill_iri.h>
 #include <quill/quill_name_addr.hpp>
+#include <quill/quill_readers.hpp>
 #include <quill/quill_route.h>
 
-struct quillRoute : coObj {
+struct quillRoute : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_ROUTE;
 
-    co::Slot<coString> iri; // never null
-    co::Slot<coString> displayName;
+    co::TextSlot iri; // never null
+    co::TextSlot displayName;
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {
@@ -37,6 +38,10 @@ static constexpr std::tuple<> lifted;
 struct coString *quill___RouteEncode(struct quillRoute const *route) {
     CO_ASSERT_GIVEN(route);
     return quill::encodeAddress(*route, lifted);
+}
+
+struct quillRoute *quill::readRoute(co::Chars *text) {
+    return readAddress<quillRoute>(text, Bare::refused, lifted);
 }
 
 struct quillRoute *quill___RouteTryDecode(coChar const *chs, int64_t length) {

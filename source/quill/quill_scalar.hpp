@@ -72,7 +72,13 @@ inline bool isWhole(Scanner skip, co::Chars text) {
 constexpr bool isWithin(int64_t value, int64_t least, int64_t most) { return value >= least && value <= most; }
 
 inline int64_t decodeDecimal(coChar const *chs, int64_t length, bool (*ok)(int64_t)) {
+    constexpr int64_t digitsThatFit = 18;
     int64_t value = 0;
+    int64_t digits = 0;
+    while (digits < length && chs[digits] >= U'0' && chs[digits] <= U'9' && digits < digitsThatFit)
+        value = value * 10 + static_cast<int64_t>(chs[digits++] - U'0');
+    if (digits > 0 && digits == length) return ok(value) ? value : -1; // as nearly always
+
     int64_t charsRead = 0;
     bool const whole = coFormatTryDecodeIntChars(chs, length, 10, &value, &charsRead) && charsRead == length;
     return whole && ok(value) ? value : -1;

@@ -8,8 +8,8 @@ namespace quill {
 // 1*DIGIT LWS at the start of the line, which then goes on behind them. The number, or -1 where there is none that its
 // validator takes.
 inline int64_t takeNumberAndLws(co::Chars *line, bool (*ok)(int64_t)) {
-    int64_t const digits = measure(quill___SkipDigits, *line);
-    int64_t const blanks = measure(quill___SkipLws, from(*line, digits));
+    int64_t const digits = matched(rules::digits(*line));
+    int64_t const blanks = matched(rules::lws(from(*line, digits)));
     if (digits == 0 || blanks == 0) return -1;
     int64_t const number = decodeDecimal(line->data(), digits, ok);
     *line = from(*line, digits + blanks);

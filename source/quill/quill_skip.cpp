@@ -10,6 +10,7 @@
 #include <quill/quill_skip.hpp>
 
 using namespace quill;
+using namespace quill::rules;
 
 // A production: its rule under a type of its own, which keeps the types of larger rules short.
 #define QUILL_RULE(production, ...)                                                                                    \
@@ -221,8 +222,34 @@ QUILL_RULE(labelPart, some(escapedRun(isAlphanum)))
 QUILL_RULE(domainLabel, sequence(labelPart, repeated(run([](coChar ch) { return ch == U'-'; }), labelPart)))
 QUILL_DEFINE_SKIP(DomainLabel, domainLabel)
 
-// hostname = domainlabel *( "." domainlabel ) [ "." ]
-QUILL_RULE(hostname, sequence(domainLabel, repeated(oneOf(U'.'), domainLabel), optional(oneOf(U'.'))))
+// hostname = domainlabel *( "." domainlabel ) [ "." ], in one pass: a label begins and ends with an alphanum or an escape,
+// so a dot or a hyphen may follow one of them alone, a hyphen another hyphen too. What is left open at the end, hyphens
+// but not the dot, doesn't count.
+static int64_t hostnameLength(Chars text, bool *isOrdinary) {
+    constexpr size_t shortLabel = 63;
+    size_t closed = 0; // behind the last label that ends well
+    bool hasEscapes = false;
+    bool hasTwoHyphens = false;
+    for (size_t at = 0; at < text.size(); at++) {
+        coChar const ch = text[at];
+        if (isAlphanum(ch)) {
+            closed = at + 1;
+        } else if (ch == U'-' && at > 0 && text[at - 1] != U'.') {
+            hasTwoHyphens = hasTwoHyphens || text[at - 1] == U'-';
+        } else if (ch == U'%' && co::beginsWithEscape(from(text, static_cast<int64_t>(at)))) {
+            at += 2;
+            closed = at + 1;
+            hasEscapes = true;
+        } else if (ch != U'.' || closed != at || at == 0) {
+            break;
+        }
+    }
+    if (closed > 0 && closed < text.size() && text[closed] == U'.') closed++;
+    if (isOrdinary) *isOrdinary = closed <= shortLabel && !hasEscapes && !hasTwoHyphens;
+    return nonEmpty(static_cast<int64_t>(closed));
+}
+
+static constexpr auto hostname = [](Chars text) { return hostnameLength(text, nullptr); };
 QUILL_DEFINE_SKIP(Hostname, hostname)
 
 static constexpr auto ipV4Address = [](Chars text) { return nonEmpty(co::ipv4Length(text)); };
@@ -240,7 +267,12 @@ QUILL_DEFINE_SKIP(IpV6Reference, ipV6Reference)
 
 // host = hostname / IPv4address / IPv6reference, the longest of them. What is an IPv4address is a hostname as well, and an
 // IPv6reference begins like no other.
-QUILL_RULE(host, firstOf(hostname, ipV6Reference))
+int64_t quill::hostLength(Chars text, bool *isOrdinary) {
+    if (isOrdinary) *isOrdinary = false;
+    return text.starts_with(U'[') ? ipV6Reference(text) : hostnameLength(text, isOrdinary);
+}
+
+static constexpr auto host = [](Chars text) { return hostLength(text); };
 QUILL_DEFINE_SKIP(Host, host)
 
 // hostport = host [ ":" port ]
@@ -304,8 +336,6 @@ QUILL_DEFINE_SKIP(SipInstance, sipInstance)
 
 // Via and version
 
-// protocol-name SLASH protocol-version
-QUILL_RULE(version, sequence(token, slash, token))
 QUILL_DEFINE_SKIP(Version, version)
 
 // via-parm = sent-protocol LWS sent-by *( SEMI via-params )

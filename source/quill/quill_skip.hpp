@@ -168,11 +168,17 @@ template <class Rule> constexpr auto exactly(int64_t count, Rule rule) {
 }
 
 // What every production is made of (RFC 3261, 25.1)
+namespace rules {
 
 inline constexpr auto sws = [](Chars text) { return span(text, isLws); };
 inline constexpr auto lws = run(isLws);
 
-constexpr auto swsCharSws(coChar ch) { return sequence(sws, oneOf(ch), sws); }
+constexpr auto swsCharSws(coChar ch) {
+    return [ch](Chars text) -> int64_t {
+        bool const standsAlone = text.size() > 1 && text[0] == ch && !isLws(text[1]); // as nearly always
+        return standsAlone ? 1 : sequence(sws, oneOf(ch), sws)(text);
+    };
+}
 constexpr auto swsChar(coChar ch) { return sequence(sws, oneOf(ch)); }
 constexpr auto charSws(coChar ch) { return sequence(oneOf(ch), sws); }
 
@@ -191,5 +197,14 @@ inline constexpr auto rdquot = charSws(U'"');
 
 inline constexpr auto digits = run(isDigit);
 inline constexpr auto token = run(isToken);
+
+// protocol-name SLASH protocol-version
+inline constexpr auto version = [](Chars text) -> int64_t { return sequence(token, slash, token)(text); };
+
+} // namespace rules
+
+// The length of the host that the text begins with, noMatch where there is none. `isOrdinary`, unless null: whether it is
+// a name of letters, digits, single hyphens and dots, so short that no label can be too long.
+int64_t hostLength(Chars text, bool *isOrdinary = nullptr);
 
 } // namespace quill

@@ -8,13 +8,13 @@
 #include <quill/quill_token.h>
 #include <quill/quill_uui_value.h>
 
-struct quillUuiValue : coObj {
+struct quillUuiValue : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_UUI_VALUE;
 
-    co::Slot<coString> uuiData;  // never null; a token, or a text without quotes
-    co::Slot<coString> encoding; // tokens, as given
-    co::Slot<coString> purpose;
-    co::Slot<coString> content;
+    co::TextSlot uuiData;  // never null; a token, or a text without quotes
+    co::TextSlot encoding; // tokens, as given
+    co::TextSlot purpose;
+    co::TextSlot content;
     co::Slot<quillGenericParams> genericParams; // never null
 
     static constexpr auto members() {
@@ -82,28 +82,28 @@ static constexpr std::tuple lifted{
 struct coString *quill___UuiValueEncode(struct quillUuiValue const *uuiValue) {
     CO_ASSERT_GIVEN(uuiValue);
     coString *text = coStringCreate();
-    if (quillTokenOk(uuiValue->uuiData.get())) co::append(&text, uuiValue->uuiData->view());
+    co::Chars const data = uuiValue->uuiData.view();
+    if (quill::isWhole(quill___SkipToken, data)) co::append(&text, data);
     quill::appendParams(&text, *uuiValue, lifted);
     return text;
 }
 
 // token / quoted-string
-static int64_t takeUuiData(co::Chars text, co::Ref<coString> *data) {
+static int64_t takeUuiData(quillUuiValue *uuiValue, co::Chars text) {
     if (int64_t const token = quill::measure(quill___SkipToken, text)) {
-        data->reset(co::makeString(quill::upTo(text, token)));
+        co::keep(uuiValue, &quillUuiValue::uuiData, quill::upTo(text, token));
         return token;
     }
     int64_t const quoted = quill::measure(quill___SkipQuotedString, text);
-    if (quoted > 0) data->reset(quill___QuotableStringTryDecode(text.data(), quoted));
-    return *data ? quoted : 0;
+    if (quoted > 0) uuiValue->uuiData.adopt(quill___QuotableStringTryDecode(text.data(), quoted));
+    return uuiValue->uuiData ? quoted : 0;
 }
 
 struct quillUuiValue *quill___UuiValueTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars const text = co::chars(chs, length);
-    co::Ref<coString> data;
-    int64_t const count = takeUuiData(text, &data);
+    co::Chars text = co::chars(chs, length);
+    co::Ref<quillUuiValue> uuiValue(quill::makeParametric<quillUuiValue>(&text));
+    int64_t const count = takeUuiData(uuiValue.get(), text);
     if (count == 0) return nullptr;
-    co::Ref<quillUuiValue> uuiValue(quillUuiValueCreate(data.get()));
     return quill::takeParams(uuiValue.get(), quill::from(text, count), lifted) ? uuiValue.take() : nullptr;
 }

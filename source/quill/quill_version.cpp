@@ -70,7 +70,7 @@ struct coString *quill___VersionEncode(struct quillVersion const *version) {
 // protocol-name SLASH protocol-version
 struct quillVersion *quill___VersionTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    if (co::chars(chs, length) == U"SIP/2.0") return quillVersionCreateSip20();
+    if (co::equal(co::chars(chs, length), U"SIP/2.0")) return quillVersionCreateSip20();
     int64_t const name = quill___SkipProtocolName(chs, length);
     if (name == 0) return nullptr;
     int64_t const slash = quill___SkipSlash(chs + name, length - name);

@@ -4,29 +4,31 @@
 
 #include <loc/loc_skip.h>
 #include <nx/nx_address.h>
+#include <nx/nx_dns.hpp>
 #include <quill/quill_branch.h>
 #include <quill/quill_family.hpp>
 #include <quill/quill_host.h>
 #include <quill/quill_lifted.hpp>
 #include <quill/quill_port.h>
+#include <quill/quill_readers.hpp>
 #include <quill/quill_transport.h>
 #include <quill/quill_ttl.h>
 #include <quill/quill_version.h>
 #include <quill/quill_via.h>
 
-struct quillVia : coObj {
+struct quillVia : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_VIA;
 
     co::Slot<quillVersion> version; // never null
-    co::Slot<coString> transport;   // never null, lower case
-    co::Slot<coString> host;        // never null
+    co::TextSlot transport;         // never null, lower case
+    co::TextSlot host;              // never null
     co::Int port;
     co::Int ttl;
-    co::Slot<coString> maddr;
+    co::TextSlot maddr;
     co::Slot<nxAddress> received;
     co::Flag rportEmpty; // never together with a number
     co::Int rportNumeric;
-    co::Slot<coString> branch;
+    co::TextSlot branch;
     co::Slot<quillGenericParams> genericParams; // never null
 
     void setRport(bool empty, int64_t numeric) {
@@ -111,7 +113,7 @@ void quill___ViaShutdown(void) {
     for (struct coString *&slot : statics) quill::stop(&slot);
 }
 
-// Creation. What was read needs no proof that it is valid.
+// Creation.
 
 static quillVia *makeVia(quillVersion *version, coString const *transport, coString *host) {
     auto *via = co::make<quillVia>();
@@ -205,7 +207,8 @@ static void appendTransport(coString **text, quillVia const *via) {
 }
 
 static void appendSentBy(coString **text, quillVia const *via) {
-    co::Ref<coString> const host(quill___HostEncode(via->host.get()));
+    co::Ref<coString> const kept(via->host.retained());
+    co::Ref<coString> const host(quill___HostEncode(kept.get()));
     co::append(text, host->view());
     if (!via->port) return;
     co::Ref<coString> const port(quill___PortEncode(via->port.get()));
@@ -224,32 +227,51 @@ struct coString *quill___ViaEncode(struct quillVia const *via) {
     return text;
 }
 
+namespace {
+
+// The name of a host that is its own Unicode form, as most are, is kept as it stands.
+bool takeHost(quillVia *via, quill::Reader *reader) {
+    bool isOrdinary = false;
+    co::Chars const host = reader->take([&](co::Chars text) { return quill::hostLength(text, &isOrdinary); });
+    if (reader->failed) return false;
+    if (isOrdinary || nx::isPlain(host))
+        co::keep(via, &quillVia::host, host);
+    else
+        via->host.adopt(quill___HostTryDecode(host.data(), co::length(host)));
+    return static_cast<bool>(via->host);
+}
+
 // [ COLON port ]
-static bool takePort(quillVia *via, quill::Reader *reader) {
-    if (quill::measure(quill___SkipColon, reader->rest) == 0) return true;
-    reader->take(quill___SkipColon);
-    co::Chars const port = reader->take(quill___SkipPort);
+bool takePort(quillVia *via, quill::Reader *reader) {
+    int64_t const colon = quill::rules::colon(reader->rest);
+    if (colon < 0) return true;
+    reader->rest = quill::from(reader->rest, colon);
+    co::Chars const port = reader->take(quill::rules::digits);
     if (reader->failed) return false;
     via->port.set(quill___PortTryDecode(port.data(), co::length(port)));
     return static_cast<bool>(via->port);
 }
 
+} // namespace
+
 // protocol-name SLASH protocol-version SLASH transport LWS host [ COLON port ] *( SEMI via-params )
+struct quillVia *quill::readVia(co::Chars *text) {
+    co::Chars line = *text;
+    co::Ref<quillVia> via(makeParametric<quillVia>(&line));
+    Reader reader{line};
+    co::Chars const version = reader.take(rules::version);
+    reader.take(rules::slash);
+    co::Chars const transport = reader.take(rules::token);
+    reader.take(rules::lws);
+    if (reader.failed || !takeHost(via.get(), &reader) || !takePort(via.get(), &reader)) return nullptr;
+    via->version.adopt(quill___VersionTryDecode(version.data(), co::length(version)));
+    co::keepLower(via.get(), &quillVia::transport, transport);
+    if (!via->version) return nullptr;
+    *text = from(*text, co::length(line) - co::length(readParams(via.get(), reader.rest, lifted)));
+    return via.take();
+}
+
 struct quillVia *quill___ViaTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    quill::Reader reader{co::chars(chs, length)};
-    co::Chars const version = reader.take(quill___SkipVersion);
-    reader.take(quill___SkipSlash);
-    co::Chars const transport = reader.take(quill___SkipTransport);
-    reader.take(quill___SkipLws);
-    co::Chars const host = reader.take(quill___SkipHost);
-    if (reader.failed) return nullptr;
-
-    co::Ref<quillVersion> const versionObj(quill___VersionTryDecode(version.data(), co::length(version)));
-    co::Ref<coString> const transportText(co::makeString(transport));
-    co::Ref<coString> const hostText(quill___HostTryDecode(host.data(), co::length(host)));
-    if (!versionObj || !hostText) return nullptr;
-    co::Ref<quillVia> via(makeVia(versionObj.get(), transportText.get(), hostText.get()));
-    if (!takePort(via.get(), &reader)) return nullptr;
-    return quill::takeParams(via.get(), reader.rest, lifted) ? via.take() : nullptr;
+    return quill::tryReadWhole(co::chars(chs, length), quill::readVia);
 }

@@ -9,12 +9,12 @@
 #include <quill/quill_warn_text.h>
 #include <quill/quill_warning_value.h>
 
-struct quillWarningValue : coObj {
+struct quillWarningValue : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_WARNING_VALUE;
 
-    co::Int warnCode;             // never absent
-    co::Slot<coString> warnAgent; // never null
-    co::Slot<coString> warnText;  // never null, without quotes
+    co::Int warnCode;       // never absent
+    co::TextSlot warnAgent; // never null
+    co::TextSlot warnText;  // never null, without quotes
 
     static constexpr auto members() {
         return std::tuple(&quillWarningValue::warnCode, &quillWarningValue::warnAgent, &quillWarningValue::warnText);
@@ -52,9 +52,10 @@ struct quillWarningValue *quillWarningValueCreateWithWarnText(int64_t warnCode, 
 
 struct coString *quill___WarningValueEncode(struct quillWarningValue const *warningValue) {
     CO_ASSERT_GIVEN(warningValue);
-    return coStringCreateFromFormatCstr("%~s %s %~s", -1, quill___WarnCodeEncode(warningValue->warnCode.get()),
-                                        warningValue->warnAgent.get(),
-                                        quill___QuotableStringEncode(warningValue->warnText.get()));
+    co::Ref<coString> const warnText(warningValue->warnText.retained());
+    return coStringCreateFromFormatCstr("%~s %~s %~s", -1, quill___WarnCodeEncode(warningValue->warnCode.get()),
+                                        warningValue->warnAgent.retained(),
+                                        quill___QuotableStringEncode(warnText.get()));
 }
 
 // warn-code LWS warn-agent LWS warn-text, and whatever comes then

@@ -126,12 +126,25 @@ std::vector<coObj *> allMembers(coObj const *obj) {
     return members;
 }
 
+// A list's vector of strings and the value of its first element; either may be null.
+std::vector<coObj *> listMembers(coObj const *obj) {
+    auto *const *words = reinterpret_cast<coObj *const *>(obj + 1);
+    std::vector<coObj *> members;
+    for (size_t slot : {1, 2})
+        if (words[slot]) members.push_back(co::retained(words[slot]));
+    return members;
+}
+
+#define SLOTS_LIST LIST(1, 2), listMembers
+#define SLOTS_SET LIST(), allMembers
+#define SLOTS_VALUE LIST(), allMembers
+
 // A typed header, made from the first of its field's samples.
 #define HEADER(Type, SORT, name, shape, definition)                                                                    \
     FAMILY(                                                                                                            \
         Header##Type, HEADER_##SORT, unitOf(#Type),                                                                    \
         [] { return decode(typed(name), fieldOf(name).samples[0].lines).take(); }, CREATE_FROM(Header##Type), textOf,  \
-        true, LIST(), allMembers),
+        true, SLOTS_##shape),
 
 std::string unitOf(char const *type) { return "quill_header_" + snake(type); }
 
@@ -167,27 +180,27 @@ std::vector<Family> families() {
                [](coObj const *obj) {
                    return std::vector{generic(quillGenericParamsParamAt(as<quillGenericParams>(obj), 0))};
                }),
-        FAMILY(Accept, ACCEPT, "quill_accept", makeAccept, CREATE_FROM(Accept), ENCODE(Accept), true, LIST(0, 1, 2),
+        FAMILY(Accept, ACCEPT, "quill_accept", makeAccept, CREATE_FROM(Accept), ENCODE(Accept), true, LIST(1, 3, 5),
                [](coObj const *obj) {
                    return std::vector{GET(Accept, MediaType), GET(Accept, MediaSubtype), GET(Accept, GenericParams)};
                }),
         FAMILY(
             Via, VIA, "quill_via", [] { return make<quillVia>("SIP/2.0/UDP h;maddr=m;received=::1;branch=b"); },
-            CREATE_FROM(Via), ENCODE(Via), true, LIST(0, 1, 2, 5, 6, 9, 10),
+            CREATE_FROM(Via), ENCODE(Via), true, LIST(1, 2, 4, 8, 10, 13, 15),
             [](coObj const *obj) {
                 return std::vector{GET(Via, Version),  GET(Via, Transport), GET(Via, Host),         GET(Via, Maddr),
                                    GET(Via, Received), GET(Via, Branch),    GET(Via, GenericParams)};
             }),
         FAMILY(
             Route, ROUTE, "quill_route", [] { return make<quillRoute>("A <sip:h>"); }, CREATE_FROM(Route),
-            ENCODE(Route), true, LIST(0, 1, 2),
+            ENCODE(Route), true, LIST(1, 3, 5),
             [](coObj const *obj) {
                 return std::vector{GET(Route, Iri), GET(Route, DisplayName), GET(Route, GenericParams)};
             }),
         FAMILY(
             Contact, CONTACT, "quill_contact",
             [] { return make<quillContact>("A <sip:h>;rc=1;mp=2;np=3;+sip.instance=\"<a>\""); }, CREATE_FROM(Contact),
-            ENCODE(Contact), true, LIST(0, 1, 2, 5, 6, 7, 8),
+            ENCODE(Contact), true, LIST(1, 3, 5, 8, 10, 12, 14),
             [](coObj const *obj) {
                 return std::vector{GET(Contact, Iri),        GET(Contact, DisplayName), GET(Contact, GenericParams),
                                    GET(Contact, Rc),         GET(Contact, Mp),          GET(Contact, Np),
@@ -195,45 +208,45 @@ std::vector<Family> families() {
             }),
         FAMILY(
             Reason, REASON, "quill_reason", [] { return make<quillReason>("SIP;cause=1;text=\"a\""); },
-            CREATE_FROM(Reason), ENCODE(Reason), true, LIST(0, 1, 2, 3),
+            CREATE_FROM(Reason), ENCODE(Reason), true, LIST(1, 3, 5, 7),
             [](coObj const *obj) {
                 return std::vector{GET(Reason, Protocol), GET(Reason, Cause), GET(Reason, Text),
                                    GET(Reason, GenericParams)};
             }),
         FAMILY(
             WarningValue, WARNING_VALUE, "quill_warning_value", [] { return make<quillWarningValue>("301 h \"a\""); },
-            CREATE_FROM(WarningValue), ENCODE(WarningValue), true, LIST(1, 2),
+            CREATE_FROM(WarningValue), ENCODE(WarningValue), true, LIST(2, 4),
             [](coObj const *obj) {
                 return std::vector{GET(WarningValue, WarnAgent), GET(WarningValue, WarnText)};
             }),
         FAMILY(
             AlertInfo, ALERT_INFO, "quill_alert_info", [] { return make<quillAlertInfo>("<sip:h>"); },
-            CREATE_FROM(AlertInfo), ENCODE(AlertInfo), true, LIST(0, 1),
+            CREATE_FROM(AlertInfo), ENCODE(AlertInfo), true, LIST(1, 3),
             [](coObj const *obj) {
                 return std::vector{GET(AlertInfo, Iri), GET(AlertInfo, GenericParams)};
             }),
         FAMILY(
             ErrorInfo, ERROR_INFO, "quill_error_info", [] { return make<quillErrorInfo>("<sip:h>"); },
-            CREATE_FROM(ErrorInfo), ENCODE(ErrorInfo), true, LIST(0, 1),
+            CREATE_FROM(ErrorInfo), ENCODE(ErrorInfo), true, LIST(1, 3),
             [](coObj const *obj) {
                 return std::vector{GET(ErrorInfo, Iri), GET(ErrorInfo, GenericParams)};
             }),
         FAMILY(
             CallInfo, CALL_INFO, "quill_call_info", [] { return make<quillCallInfo>("<sip:h>;purpose=icon"); },
-            CREATE_FROM(CallInfo), ENCODE(CallInfo), true, LIST(0, 1, 2),
+            CREATE_FROM(CallInfo), ENCODE(CallInfo), true, LIST(1, 3, 5),
             [](coObj const *obj) {
                 return std::vector{GET(CallInfo, Iri), GET(CallInfo, Purpose), GET(CallInfo, GenericParams)};
             }),
         FAMILY(
             IdentityValue, IDENTITY_VALUE, "quill_identity_value", [] { return make<quillIdentityValue>("A <sip:h>"); },
-            CREATE_FROM(IdentityValue), ENCODE(IdentityValue), true, LIST(0, 1),
+            CREATE_FROM(IdentityValue), ENCODE(IdentityValue), true, LIST(1, 3),
             [](coObj const *obj) {
                 return std::vector{GET(IdentityValue, Iri), GET(IdentityValue, DisplayName)};
             }),
         FAMILY(
             Diversion, DIVERSION, "quill_diversion",
             [] { return make<quillDiversion>("A <sip:h>;reason=a;privacy=b;screen=c"); }, CREATE_FROM(Diversion),
-            ENCODE(Diversion), true, LIST(0, 1, 2, 5, 6, 7),
+            ENCODE(Diversion), true, LIST(1, 3, 5, 9, 11, 13),
             [](coObj const *obj) {
                 return std::vector{GET(Diversion, Iri),     GET(Diversion, DisplayName), GET(Diversion, Reason),
                                    GET(Diversion, Privacy), GET(Diversion, Screen),      GET(Diversion, GenericParams)};
@@ -241,7 +254,7 @@ std::vector<Family> families() {
         FAMILY(
             HistoryInfo, HISTORY_INFO, "quill_history_info",
             [] { return make<quillHistoryInfo>("A <sip:h>;index=1;rc=1;mp=2;np=3"); }, CREATE_FROM(HistoryInfo),
-            ENCODE(HistoryInfo), true, LIST(0, 1, 2, 3, 4, 5, 6),
+            ENCODE(HistoryInfo), true, LIST(1, 3, 5, 7, 9, 11, 13),
             [](coObj const *obj) {
                 return std::vector{GET(HistoryInfo, Iri),          GET(HistoryInfo, DisplayName),
                                    GET(HistoryInfo, Index),        GET(HistoryInfo, Rc),
@@ -250,14 +263,14 @@ std::vector<Family> families() {
             }),
         FAMILY(
             AcceptEncoding, ACCEPT_ENCODING, "quill_accept_encoding", [] { return make<quillAcceptEncoding>("gzip"); },
-            CREATE_FROM(AcceptEncoding), ENCODE(AcceptEncoding), true, LIST(0, 1),
+            CREATE_FROM(AcceptEncoding), ENCODE(AcceptEncoding), true, LIST(1, 3),
             [](coObj const *obj) {
                 return std::vector{GET(AcceptEncoding, ContentCoding), GET(AcceptEncoding, GenericParams)};
             }),
         FAMILY(
             UuiValue, UUI_VALUE, "quill_uui_value",
             [] { return make<quillUuiValue>("a;encoding=b;purpose=c;content=d"); }, CREATE_FROM(UuiValue),
-            ENCODE(UuiValue), true, LIST(0, 1, 2, 3, 4),
+            ENCODE(UuiValue), true, LIST(1, 3, 5, 7, 9),
             [](coObj const *obj) {
                 return std::vector{GET(UuiValue, UuiData), GET(UuiValue, Encoding), GET(UuiValue, Purpose),
                                    GET(UuiValue, Content), GET(UuiValue, GenericParams)};
@@ -287,10 +300,13 @@ std::vector<Family> families() {
 
 class QuillFamily : public testing::TestWithParam<Family> {
 protected:
-    // No member of these refers to an object.
-    bool isOneInteger() const {
-        static std::set<std::string> const names{"QUILL_HEADER_EXPIRES", "QUILL_HEADER_MAX_FORWARDS",
-                                                 "QUILL_HEADER_MIN_EXPIRES", "QUILL_HEADER_RSEQ"};
+    // No member of these refers to an object: they are integers, or texts that were read and stand in the line that the
+    // object keeps.
+    bool isWithoutObjects() const {
+        static std::set<std::string> const names{
+            "QUILL_HEADER_CALL_ID",     "QUILL_HEADER_CSEQ",      "QUILL_HEADER_EXPIRES", "QUILL_HEADER_MAX_FORWARDS",
+            "QUILL_HEADER_MIN_EXPIRES", "QUILL_HEADER_RACK",      "QUILL_HEADER_RSEQ",    "QUILL_HEADER_SERVER",
+            "QUILL_HEADER_TIMESTAMP",   "QUILL_HEADER_USER_AGENT"};
         return names.contains(family.name);
     }
     Family const &family = GetParam();
@@ -386,8 +402,11 @@ TEST_P(QuillValueFamily, CopiesShareTheirMembers) {
     EXPECT_EQ(family.equals(obj.get(), copy.get()), family.isCompared);
     std::vector<coObj *> const members = family.members(obj.get());
     std::vector<coObj *> const copied = family.members(copy.get());
-    EXPECT_EQ(members, copied);
-    EXPECT_EQ(members.empty(), isOneInteger());
+    ASSERT_EQ(members.size(), copied.size());
+    for (size_t i = 0; i < members.size(); i++) {
+        bool const isText = coObjSort(members[i]) == coStringSort(); // made for the asker where it stands in the line
+        EXPECT_TRUE(members[i] == copied[i] || (isText && coObjCompare(members[i], copied[i]) == 0)) << i;
+    }
     for (coObj *member : members) coObjRelease(member);
     for (coObj *member : copied) coObjRelease(member);
     EXPECT_ABORT(family.createFrom(nullptr), family.unit, "source");
@@ -395,7 +414,7 @@ TEST_P(QuillValueFamily, CopiesShareTheirMembers) {
 
 TEST_P(QuillFamily, FreeingGivesUpMembersAndLeavesAllOnes) {
     std::vector<size_t> const slots = family.slots.empty() ? slotsOf(obj.get()) : family.slots;
-    EXPECT_EQ(slots.empty(), isOneInteger());
+    EXPECT_EQ(slots.empty(), isWithoutObjects());
     std::vector<coObj *> const members = family.members(obj.get());
     std::map<coObj *, int64_t> counts; // some may be one object
     for (coObj *member : members) counts[member] = count(member);
@@ -407,7 +426,7 @@ TEST_P(QuillFamily, FreeingGivesUpMembersAndLeavesAllOnes) {
     std::free(freed);
 
     for (auto [member, before] : counts) { // a member that was found has lost at least the reference of its slot
-        bool const hasLost = family.slots.empty() && !co::isImmortal(member);
+        bool const hasLost = (family.slots.empty() || family.members == listMembers) && !co::isImmortal(member);
         EXPECT_LE(count(member), before - hasLost);
     }
     for (coObj *member : members) coObjRelease(member);

@@ -1,0 +1,63 @@
+// The elements of a list header: texts.
+//
+// The first few of a header that was read are pieces of the text behind it; a string is made of one when somebody asks
+// for it. All others, and all of a list that was changed, are strings in a vector.
+#pragma once
+
+#include <co/co_member.hpp>
+#include <co/co_vector.hpp>
+
+namespace quill {
+
+class Elements {
+public:
+    int64_t count() const { return strings ? strings->length : pieceCount; }
+    // The text of an element, and a string of it, owned by the caller. There must be such an element.
+    co::Chars view(int64_t index) const;
+    coString *string(int64_t index) const;
+    // All of them, owned by the caller; a vector of a header's own is shared.
+    coVector *vector() const;
+
+    // What the first element was read as, a value; null where it has to be read.
+    coObj *first() const { return firstValue; }
+    void adoptFirst(coObj *value) {
+        if (coObj *old = std::exchange(firstValue, value)) co::release(old);
+    }
+
+    // The vector, to be changed. The elements are strings from then on.
+    coVector **writable();
+    void clear();
+
+    // Appends a text that was read: as a piece, which is copied to the room behind the object, or as a string.
+    void append(co::Chars text, coChar *room, int64_t length);
+
+    void init() {
+        strings = nullptr;
+        firstValue = nullptr;
+        pieceCount = 0;
+        used = 0;
+    }
+    void copy(Elements const &source);
+    void poison();
+    // Element by element; the shorter list of two that begin alike comes first.
+    int compare(Elements const &other) const;
+
+private:
+    static constexpr int64_t mostPieces = 8;
+    struct Piece {
+        uint32_t distance; // from this member, in code points: the same in a copy
+        uint32_t length;
+    };
+
+    bool isPiece(int64_t index) const { return !strings && index >= 0 && index < pieceCount; }
+    coChar const *base() const { return reinterpret_cast<coChar const *>(this); }
+    co::Chars piece(int64_t index) const { return {base() + pieces[index].distance, pieces[index].length}; }
+
+    coVector *strings; // null while the elements are pieces
+    coObj *firstValue;
+    int64_t pieceCount;
+    int64_t used; // of the room for pieces
+    Piece pieces[mostPieces];
+};
+
+} // namespace quill
