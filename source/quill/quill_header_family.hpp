@@ -80,14 +80,14 @@ template <class T> co::Ref<T> tryReadFirst(co::Chars text, ValueReader<T> read, 
     return isWhole ? std::move(value) : co::Ref<T>();
 }
 
-// Nearly everybody who decodes a list reads its first element: with `read` that is done at once. Elements are kept as
-// they are written.
+// Nearly everybody who decodes a list reads its first element: with `read` that is done at once where the lines are few.
+// Elements are kept as they are written.
 template <class H, class T> H *tryDecodeList(Lines &lines, Scanner element, ValueReader<T> read) {
     co::Ref<H> hdr(co::make<H>(lines.room()));
     co::Ref<T> first;
     auto const take = [&](co::Chars text) {
         int64_t count = 0;
-        if (read && hdr->elements.count() == 0) first = tryReadFirst(text, read, &count);
+        if (read && hdr->elements.count() == 0 && hdr->lineLength > 0) first = tryReadFirst(text, read, &count);
         if (!first || hdr->elements.count() > 0) count = measure(element, text);
         if (count > 0) hdr->elements.append(upTo(text, count), co::lineOf(hdr.get()), hdr->lineLength);
         return count;

@@ -39,8 +39,10 @@ struct coString *quill___IdentityValueEncode(struct quillIdentityValue const *id
 
 struct quillIdentityValue *quill___IdentityValueTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars text = co::chars(chs, length);
-    co::Ref<quillIdentityValue> identityValue(co::makeWithLine<quillIdentityValue>(&text));
-    int64_t const count = quill::takeNameAddr(identityValue.get(), text, quill::Bare::allowed);
-    return count > 0 && count == length ? identityValue.take() : nullptr;
+    quill::NameAddr address;
+    int64_t const count = quill::measureNameAddr(co::chars(chs, length), quill::Bare::allowed, &address);
+    if (count == 0 || count != length) return nullptr;
+    auto *identityValue = co::make<quillIdentityValue>();
+    quill::keepNameAddr(identityValue, address);
+    return identityValue;
 }

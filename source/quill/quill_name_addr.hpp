@@ -59,13 +59,16 @@ template <class T> void keepDisplayName(T *value, co::Chars written) {
     CO_ASSERT(value->displayName, "displayName"); // what the scanner takes can be read
 }
 
+template <class T> void keepNameAddr(T *value, NameAddr const &address) {
+    keepIri(value, address.uri);
+    if (!address.displayName.empty()) keepDisplayName(value, address.displayName);
+}
+
 // The address at the start of the text into the value; how many code points it takes, 0 for none.
 template <class T> int64_t takeNameAddr(T *value, co::Chars text, Bare bare) {
     NameAddr address;
     int64_t const count = measureNameAddr(text, bare, &address);
-    if (count == 0) return 0;
-    keepIri(value, address.uri);
-    if (!address.displayName.empty()) keepDisplayName(value, address.displayName);
+    if (count > 0) keepNameAddr(value, address);
     return count;
 }
 
