@@ -27,7 +27,8 @@ static coString *stringOfStore(coObj const *obj) {
 }
 
 constinit coSort const co___sort_CO_STORE{&co___sort_CO_SORT,       &co___module,  "CO_STORE",
-                                          co::freeMembers<coStore>, compareStores, stringOfStore};
+                                          co::freeMembers<coStore>, compareStores, stringOfStore,
+                                          co::sizeOf<coStore>};
 
 CO_DEFINE_FAMILY(coStore, co___sort_CO_STORE)
 
