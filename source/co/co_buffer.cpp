@@ -52,7 +52,7 @@ static coString *stringOfBuffer(coObj const *obj) {
 }
 
 constinit coSort const co___sort_CO_BUFFER{&co___sort_CO_SORT, &co___module,   "CO_BUFFER", freeBuffer,
-                                           compareBuffers,     stringOfBuffer, sizeOfBuffer};
+                                           compareBuffers,     stringOfBuffer, 0,           sizeOfBuffer};
 
 CO_DEFINE_FAMILY(coBuffer, co___sort_CO_BUFFER)
 

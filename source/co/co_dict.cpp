@@ -292,8 +292,8 @@ static coString *stringOfDict(coObj const *obj) {
     return text;
 }
 
-constinit coSort const co___sort_CO_DICT{&co___sort_CO_SORT, &co___module, "CO_DICT",         freeDict,
-                                         compareDicts,       stringOfDict, co::sizeOf<coDict>};
+constinit coSort const co___sort_CO_DICT{&co___sort_CO_SORT, &co___module, "CO_DICT",     freeDict,
+                                         compareDicts,       stringOfDict, sizeof(coDict)};
 
 CO_DEFINE_FAMILY(coDict, co___sort_CO_DICT)
 

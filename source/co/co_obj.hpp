@@ -18,14 +18,15 @@ struct coSort : coObj {
     void (*freeFunc)(coObj *);
     int (*compareFunc)(coObj const *, coObj const *);
     coString *(*toStringFunc)(coObj const *);
-    int64_t (*sizeFunc)(coObj const *); // the memory that an object was given; null where no object can tell
-    void const *reserved[4];
+    int64_t size;                       // of an object's memory, where it is known here, else 0
+    int64_t (*sizeFunc)(coObj const *); // where each object has its own; 0 when that is not known any more
+    void const *reserved[3];
 
     constexpr coSort(coSort const *sortOfSorts, coModule const *owner, char const *sortName, void (*free)(coObj *),
                      int (*compare)(coObj const *, coObj const *), coString *(*toString)(coObj const *),
-                     int64_t (*size)(coObj const *) = nullptr)
+                     int64_t objectSize = 0, int64_t (*sizeOfObject)(coObj const *) = nullptr)
         : coObj{sortOfSorts, 1}, module(owner), name(sortName), freeFunc(free), compareFunc(compare),
-          toStringFunc(toString), sizeFunc(size), reserved{} {}
+          toStringFunc(toString), size(objectSize), sizeFunc(sizeOfObject), reserved{} {}
 };
 
 struct coModuleRecord {
@@ -116,9 +117,6 @@ inline void *allocateObject(int64_t size, coSort const *sort) {
     obj->count.store(1, std::memory_order_relaxed);
     return mem;
 }
-
-// The size function of a type whose objects all have the same.
-template <class T> int64_t sizeOf(coObj const *) { return sizeof(T); }
 
 // An owned reference, given up at the end of the scope unless taken. For codecs, which leave by many ways.
 template <class T> class Ref {

@@ -38,13 +38,17 @@ struct coObj *co___ObjCreate(int64_t size, struct coSort const *sort) {
     return obj;
 }
 
-void co___ObjFree(struct coObj *obj) {
-    coSort const *sort = obj->itsSort;
-    if (sort == &co___sort_CO_STRING) // most objects are, and hold nothing
-        return co::freeBlock(obj, static_cast<coString const *>(obj)->size());
-    int64_t const size = sort->sizeFunc ? sort->sizeFunc(obj) : 0; // asked while the object is whole
+// Apart, so that a string's way needs no stack.
+[[gnu::noinline]] static void freeOther(coObj *obj, coSort const *sort) {
+    int64_t const size = sort->sizeFunc ? sort->sizeFunc(obj) : sort->size; // asked while the object is whole
     if (sort->freeFunc) sort->freeFunc(obj);
     co::freeBlock(obj, size);
+}
+
+void co___ObjFree(struct coObj *obj) {
+    coSort const *sort = obj->itsSort;
+    if (sort != &co___sort_CO_STRING) return freeOther(obj, sort);
+    co::freeBlock(obj, static_cast<coString const *>(obj)->size()); // most objects are strings, which hold nothing
 }
 
 struct coSort const *coObjSort(struct coObj const *obj) {

@@ -24,7 +24,7 @@ static coString *stringOfString(coObj const *obj) { return co::retained(static_c
 static int64_t sizeOfString(coObj const *obj) { return static_cast<coString const *>(obj)->size(); }
 
 constinit coSort const co___sort_CO_STRING{&co___sort_CO_SORT, &co___module,   "CO_STRING", nullptr,
-                                           compareStrings,     stringOfString, sizeOfString};
+                                           compareStrings,     stringOfString, 0,           sizeOfString};
 
 CO_DEFINE_FAMILY(coString, co___sort_CO_STRING)
 

@@ -21,7 +21,7 @@ struct coString : coObj {
     std::u32string_view view() const { return {chars(), static_cast<size_t>(length)}; }
 };
 
-extern "C" struct coSort const co___sort_CO_STRING;
+extern "C" __attribute__((visibility("hidden"))) struct coSort const co___sort_CO_STRING;
 
 namespace co {
 

@@ -38,8 +38,8 @@ static coString *stringOfVector(coObj const *obj) {
     return text;
 }
 
-constinit coSort const co___sort_CO_VECTOR{&co___sort_CO_SORT, &co___module,   "CO_VECTOR",         freeVector,
-                                           compareVectors,     stringOfVector, co::sizeOf<coVector>};
+constinit coSort const co___sort_CO_VECTOR{&co___sort_CO_SORT, &co___module,   "CO_VECTOR",     freeVector,
+                                           compareVectors,     stringOfVector, sizeof(coVector)};
 
 CO_DEFINE_FAMILY(coVector, co___sort_CO_VECTOR)
 

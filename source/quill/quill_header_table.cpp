@@ -28,7 +28,7 @@ static int64_t sizeOfWireText(coObj const *obj) {
 }
 
 constinit coSort const WireText::sort{
-    &co___sort_CO_SORT, &quill___module, "QUILL_WIRE_TEXT", freeNothing, nullptr, nullptr, sizeOfWireText};
+    &co___sort_CO_SORT, &quill___module, "QUILL_WIRE_TEXT", freeNothing, nullptr, nullptr, 0, sizeOfWireText};
 
 namespace {
 
@@ -130,7 +130,7 @@ static void freeHeaderSet(coObj *obj) {
 }
 
 constinit coSort const HeaderSet::sort{
-    &co___sort_CO_SORT, &quill___module, "QUILL_HEADER_SET", freeHeaderSet, nullptr, nullptr, sizeOfHeaderSet};
+    &co___sort_CO_SORT, &quill___module, "QUILL_HEADER_SET", freeHeaderSet, nullptr, nullptr, 0, sizeOfHeaderSet};
 
 uint32_t HeaderSet::find(co::Chars name, int known) const {
     if (known >= 0) return placeOfKnown[known];
