@@ -74,7 +74,7 @@ struct BlockCache {
 // In static memory for threads, so that it is found without a call; a pointer, because there is little of that memory.
 extern constinit thread_local BlockCache *blockCache __attribute__((tls_model("initial-exec")));
 
-// The ways around the lists.
+// The ways around the lists. New memory is null when there is none.
 void *allocateNewBlock(int64_t size);
 void freeUnkeptBlock(void *mem, int64_t size);
 
@@ -92,11 +92,9 @@ inline void *takeKeptBlock(int64_t size) {
     return block;
 }
 
-// Uninitialised memory; null when there is none. Freed with freeBlock alone.
-inline void *allocateBlock(int64_t size) {
-    void *mem = takeKeptBlock(size);
-    return mem ? mem : allocateNewBlock(size);
-}
+// Uninitialised memory that is freed with freeBlock alone. Ends the process when there is none. For objects:
+// allocateObject.
+void *allocateBlock(int64_t size);
 
 // `size` is what was asked for, or 0 where that is not known any more. `mem` is not null.
 inline void freeBlock(void *mem, int64_t size) {
