@@ -28,22 +28,22 @@ inline constexpr bool keepsBlocks = true;
 #endif
 
 // The sizes that are told apart: in steps that malloc makes itself up to fineLimit, in coarse ones up to largestKept.
+inline constexpr int64_t smallestKept = 9;
 inline constexpr int64_t fineStep = 16;
 inline constexpr int64_t fineLimit = 264;
 inline constexpr int64_t coarseStep = 128;
 inline constexpr int64_t largestKept = 4104;
-inline constexpr int64_t fineClasses = (fineLimit + 7) / fineStep + 1;
+inline constexpr int64_t fineClasses = (fineLimit - smallestKept) / fineStep + 1;
 inline constexpr int64_t blockClasses = fineClasses + (largestKept - fineLimit) / coarseStep;
 
 constexpr int64_t blockClass(int64_t size) {
-    if (size <= fineLimit) return (size + 7) / fineStep;
+    if (size <= fineLimit) return (size - smallestKept) / fineStep;
     return fineClasses + (size - fineLimit - 1) / coarseStep;
 }
 
 // The size of the blocks of a class.
 constexpr int64_t blockSize(int64_t index) {
-    if (index == 0) return fineStep + 8; // a free block must hold its link
-    if (index < fineClasses) return index * fineStep + 8;
+    if (index < fineClasses) return (index + 1) * fineStep + 8;
     return fineLimit + (index - fineClasses + 1) * coarseStep;
 }
 
@@ -78,8 +78,10 @@ extern constinit thread_local BlockCache *blockCache __attribute__((tls_model("i
 void *allocateNewBlock(int64_t size);
 void freeUnkeptBlock(void *mem, int64_t size);
 
-// Sizes that overflowed are negative, and left to malloc to refuse.
-constexpr bool isKept(int64_t size) { return keepsBlocks && static_cast<uint64_t>(size) <= largestKept; }
+// Sizes that overflowed are negative, and left to malloc to refuse. None is so small but 0, which is an unknown size.
+constexpr bool isKept(int64_t size) {
+    return keepsBlocks && static_cast<uint64_t>(size) - smallestKept <= largestKept - smallestKept;
+}
 
 // Memory of a kept block, or null: there is none, or none of this size.
 inline void *takeKeptBlock(int64_t size) {
@@ -98,7 +100,7 @@ void *allocateBlock(int64_t size);
 
 // `size` is what was asked for, or 0 where that is not known any more. `mem` is not null.
 inline void freeBlock(void *mem, int64_t size) {
-    if (!isKept(size) || size == 0) return std::free(mem);
+    if (!isKept(size)) return std::free(mem);
     BlockList &list = blockCache->lists[blockClass(size)];
     if (list.room == 0) [[unlikely]]
         return freeUnkeptBlock(mem, size);
