@@ -7,10 +7,10 @@
 #include <utility>
 
 #ifdef CO_HEAP_IS_WATCHED
-static bool isUnderValgrind() { return true; }
+static bool isWatched() { return true; }
 #else
 #include <valgrind/valgrind.h>
-static bool isUnderValgrind() { return RUNNING_ON_VALGRIND; }
+static bool isWatched() { return RUNNING_ON_VALGRIND; }
 #endif
 
 // What a thread that has no lists sees: never written, for nothing is in them and there is room for nothing.
@@ -20,7 +20,7 @@ static constinit co::BlockCache never{};
 constinit thread_local co::BlockCache *co::blockCache = &notYet;
 
 void *co::allocateNewBlock(int64_t size) {
-    bool const exact = !isKept(size) || isUnderValgrind(); // what is watched ends where it was meant to
+    bool const exact = !isKept(size) || isWatched(); // what is watched ends where it was meant to
     return std::malloc(static_cast<size_t>(exact ? size : blockSize(blockClass(size))));
 }
 
@@ -52,7 +52,7 @@ thread_local AtThreadEnd atThreadEnd;
 
 // The thread's lists, which begin empty; none where there is no memory for them.
 static co::BlockCache *makeCache() {
-    if (isUnderValgrind()) return &never;
+    if (isWatched()) return &never;
     auto *cache = static_cast<co::BlockCache *>(std::calloc(1, sizeof(co::BlockCache)));
     if (!cache) return &never;
     for (int64_t i = 0; i < co::blockClasses; i++) cache->lists[i].room = co::roomFor(i);

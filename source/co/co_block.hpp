@@ -28,7 +28,7 @@ inline constexpr bool keepsBlocks = true;
 #endif
 
 // The sizes that are told apart: in steps that malloc makes itself up to fineLimit, in coarse ones up to largestKept.
-inline constexpr int64_t smallestKept = 9;
+inline constexpr int64_t smallestKept = 9; // nothing is smaller
 inline constexpr int64_t fineStep = 16;
 inline constexpr int64_t fineLimit = 264;
 inline constexpr int64_t coarseStep = 128;
@@ -60,6 +60,7 @@ struct FreeBlock {
     int64_t unchanged; // an object's count
     FreeBlock *next;
 };
+static_assert(blockSize(0) >= sizeof(FreeBlock));
 
 struct BlockList {
     FreeBlock *first;
@@ -78,7 +79,8 @@ extern constinit thread_local BlockCache *blockCache __attribute__((tls_model("i
 void *allocateNewBlock(int64_t size);
 void freeUnkeptBlock(void *mem, int64_t size);
 
-// Sizes that overflowed are negative, and left to malloc to refuse. None is so small but 0, which is an unknown size.
+// The others are for malloc and free: large ones, 0 for an unknown one, and negative ones, which overflowed and are
+// refused there.
 constexpr bool isKept(int64_t size) {
     return keepsBlocks && static_cast<uint64_t>(size) - smallestKept <= largestKept - smallestKept;
 }
