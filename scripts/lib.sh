@@ -4,8 +4,8 @@
 
 ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-# To build the library and the tool.
-BUILD_PACKAGES=(cmake ninja-build ccache gcc g++ libc6-dev libcli11-dev nlohmann-json3-dev)
+# To build the library and the tool. Of valgrind the library uses the header, and a test the program.
+BUILD_PACKAGES=(cmake ninja-build ccache gcc g++ libc6-dev libcli11-dev nlohmann-json3-dev valgrind)
 
 # To build the tests and the benchmarks.
 TEST_PACKAGES=(libgtest-dev libgmock-dev libbenchmark-dev libidn2-dev libicu-dev unicode-data)

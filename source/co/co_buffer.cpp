@@ -10,7 +10,9 @@
 #include <co/co_string.hpp>
 #include <cstring>
 
-static uint8_t *inlineBytes(coBuffer *buffer) { return reinterpret_cast<uint8_t *>(buffer + 1); }
+static uint8_t *inlineBytes(coBuffer const *buffer) {
+    return reinterpret_cast<uint8_t *>(const_cast<coBuffer *>(buffer) + 1);
+}
 
 static void freeBytes(coBuffer *buffer) {
     if (buffer->bytes != inlineBytes(buffer)) coMemFree(buffer->bytes);
@@ -20,6 +22,14 @@ static void freeBuffer(coObj *obj) {
     auto *buffer = static_cast<coBuffer *>(obj);
     freeBytes(buffer);
     buffer->bytes = co::released<uint8_t>();
+}
+
+static int64_t sizeFor(int64_t capacity) { return static_cast<int64_t>(sizeof(coBuffer)) + capacity; }
+
+// A buffer that outgrew its memory has forgotten how much that was.
+static int64_t sizeOfBuffer(coObj const *obj) {
+    auto const *buffer = static_cast<coBuffer const *>(obj);
+    return buffer->bytes == inlineBytes(buffer) ? sizeFor(buffer->capacity) : 0;
 }
 
 static int compareBuffers(coObj const *objA, coObj const *objB) {
@@ -41,8 +51,8 @@ static coString *stringOfBuffer(coObj const *obj) {
     return text;
 }
 
-constinit coSort const co___sort_CO_BUFFER{&co___sort_CO_SORT, &co___module,   "CO_BUFFER",
-                                           freeBuffer,         compareBuffers, stringOfBuffer};
+constinit coSort const co___sort_CO_BUFFER{&co___sort_CO_SORT, &co___module,   "CO_BUFFER", freeBuffer,
+                                           compareBuffers,     stringOfBuffer, 0,           sizeOfBuffer};
 
 CO_DEFINE_FAMILY(coBuffer, co___sort_CO_BUFFER)
 
@@ -51,8 +61,7 @@ static void copyBytes(uint8_t *to, uint8_t const *from, int64_t count) {
 }
 
 coBuffer *co::makeBuffer(int64_t capacity) {
-    auto const size = static_cast<int64_t>(sizeof(coBuffer)) + capacity;
-    auto *buffer = static_cast<coBuffer *>(allocateObject(size, &co___sort_CO_BUFFER));
+    auto *buffer = static_cast<coBuffer *>(allocateObject(sizeFor(capacity), &co___sort_CO_BUFFER));
     buffer->bytes = inlineBytes(buffer);
     buffer->head = 0;
     buffer->length = 0;

@@ -20,17 +20,19 @@ using co::DictEntry;
 
 namespace {
 
+constexpr int64_t fewEntries = 4;
 constexpr int64_t largestUnhashed = 8;
 constexpr int64_t largestCapacity = int64_t{1} << 31;
 constexpr int64_t blockLength = 16;
 constexpr uint32_t noPlace = UINT32_MAX;
 
-// What the entries of one dictionary are kept in: one piece of memory for all four arrays.
+// What the entries of one dictionary are kept in: the table itself for a few, else one block for all four arrays.
 struct Table {
     DictEntry *entries; // a null key: a gap
     int64_t length;     // without gaps
     int64_t used;       // with gaps
-    int64_t capacity;   // up to largestUnhashed, or a power of two
+    int64_t capacity;   // fewEntries, largestUnhashed, or a larger power of two
+    DictEntry few[fewEntries];
 
     bool hashed() const { return capacity > largestUnhashed; }
     int64_t blocks() const { return capacity / blockLength; }
@@ -45,6 +47,7 @@ struct Table {
     uint32_t after(uint32_t slot) const { return home(slot + 1); }
 
     void init(int64_t room);
+    void freeBlock() const;
     int64_t find(Chars key, uint32_t hash) const;
     int64_t placeAt(int64_t index) const;
     void add(DictEntry entry, uint32_t hash);
@@ -52,30 +55,39 @@ struct Table {
     void moveTo(int64_t room);
 
 private:
+    int64_t blockSize() const;
     void countGap(int64_t place);
     void emptySlotOf(int64_t place);
 };
 
 // A full table that is made anew gets at least a third of free room, so that the cost is shared by as many additions.
 int64_t capacityFor(int64_t room) {
-    if (room == 0) return 0;
-    int64_t capacity = 4;
+    int64_t capacity = fewEntries;
     int64_t const wanted = room <= largestUnhashed ? room : room + room / 2;
     while (capacity < wanted) capacity *= 2;
     CO_ASSERT_SAYING("out of memory", capacity <= largestCapacity, "capacity");
     return capacity;
 }
 
-void Table::init(int64_t room) {
-    *this = {nullptr, 0, 0, capacityFor(room)};
-    if (capacity == 0) return;
-    auto constexpr word = static_cast<int64_t>(sizeof(uint32_t));
+constexpr auto word = static_cast<int64_t>(sizeof(uint32_t));
+
+// Of the memory beside the table itself, in bytes.
+int64_t Table::blockSize() const {
     auto constexpr entry = static_cast<int64_t>(sizeof(DictEntry));
-    int64_t const beside = hashed() ? (capacity + blocks() + slots()) * word : 0;
-    entries = static_cast<DictEntry *>(coMemAllocN(capacity * entry + beside, 1));
+    return capacity * entry + (hashed() ? (capacity + blocks() + slots()) * word : 0);
+}
+
+void Table::init(int64_t room) {
+    length = used = 0;
+    capacity = capacityFor(room);
+    entries = capacity == fewEntries ? few : static_cast<DictEntry *>(co::allocateBlock(blockSize()));
     if (!hashed()) return;
     std::memset(gaps(), 0, static_cast<size_t>(blocks() * word));
     std::memset(placeOfSlot(), 0xFF, static_cast<size_t>(slots() * word));
+}
+
+void Table::freeBlock() const {
+    if (capacity > fewEntries) co::freeBlock(entries, blockSize());
 }
 
 // The place of a key among the entries, or -1.
@@ -156,7 +168,7 @@ DictEntry Table::remove(int64_t place) {
     return removed;
 }
 
-// New memory for `room` entries, without gaps.
+// New memory for `room` entries, without gaps. Not from few to few.
 void Table::moveTo(int64_t room) {
     Table const old = *this;
     init(room);
@@ -164,7 +176,7 @@ void Table::moveTo(int64_t room) {
         if (!old.entries[i].key) continue;
         add(old.entries[i], old.hashed() ? old.hashes()[i] : hash(old.entries[i].key->view()));
     }
-    coMemFree(old.entries);
+    old.freeBlock();
 }
 
 } // namespace
@@ -200,7 +212,7 @@ static void releaseEntries(coDict const *dict) {
 static void freeDict(coObj *obj) {
     auto *dict = static_cast<coDict *>(obj);
     releaseEntries(dict);
-    coMemFree(dict->table.entries);
+    dict->table.freeBlock();
     dict->table.entries = co::released<DictEntry>();
 }
 
@@ -292,8 +304,8 @@ static coString *stringOfDict(coObj const *obj) {
     return text;
 }
 
-constinit coSort const co___sort_CO_DICT{&co___sort_CO_SORT, &co___module, "CO_DICT",
-                                         freeDict,           compareDicts, stringOfDict};
+constinit coSort const co___sort_CO_DICT{&co___sort_CO_SORT, &co___module, "CO_DICT",     freeDict,
+                                         compareDicts,       stringOfDict, sizeof(coDict)};
 
 CO_DEFINE_FAMILY(coDict, co___sort_CO_DICT)
 
@@ -401,5 +413,5 @@ void coDictClear(struct coDict **dict) {
     Table const old = (*dict)->table;
     releaseEntries(*dict);
     (*dict)->table.init(0);
-    coMemFree(old.entries);
+    old.freeBlock();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <co/co_block.hpp>
 #include <co/co_object.h>
 #include <utility>
 
@@ -17,12 +18,15 @@ struct coSort : coObj {
     void (*freeFunc)(coObj *);
     int (*compareFunc)(coObj const *, coObj const *);
     coString *(*toStringFunc)(coObj const *);
-    void const *reserved[5];
+    int64_t size;                       // of an object's memory, where it is known here, else 0
+    int64_t (*sizeFunc)(coObj const *); // where each object has its own; 0 when that is not known any more
+    void const *reserved[3];
 
     constexpr coSort(coSort const *sortOfSorts, coModule const *owner, char const *sortName, void (*free)(coObj *),
-                     int (*compare)(coObj const *, coObj const *), coString *(*toString)(coObj const *))
+                     int (*compare)(coObj const *, coObj const *), coString *(*toString)(coObj const *),
+                     int64_t objectSize = 0, int64_t (*sizeOfObject)(coObj const *) = nullptr)
         : coObj{sortOfSorts, 1}, module(owner), name(sortName), freeFunc(free), compareFunc(compare),
-          toStringFunc(toString), reserved{} {}
+          toStringFunc(toString), size(objectSize), sizeFunc(sizeOfObject), reserved{} {}
 };
 
 struct coModuleRecord {
@@ -88,7 +92,8 @@ template <class T> void retain(T const *obj) {
 template <class T> bool isUnique(T const *obj) { return header(obj)->count.load(std::memory_order_seq_cst) == 1; }
 
 template <class T> void release(T *obj) {
-    if (isUnique(obj) || (!isImmortal(obj) && header(obj)->count.fetch_sub(1, std::memory_order_seq_cst) == 1))
+    int64_t const count = header(obj)->count.load(std::memory_order_seq_cst);
+    if (count == 1 || (count < immortal && header(obj)->count.fetch_sub(1, std::memory_order_seq_cst) == 1))
         co___ObjFree(header(obj));
 }
 
@@ -100,8 +105,18 @@ template <class T> T *retained(T const *obj) {
 
 template <class T> int compare(T const *a, T const *b) { return a == b ? 0 : coObjCompare(header(a), header(b)); }
 
+// Memory for an object that no kept block is there for. Ends the process when there is none.
+void *allocateNewObject(int64_t size);
+
 // Memory for an object with its header set; the rest is left as it comes.
-void *allocateObject(int64_t size, coSort const *sort);
+inline void *allocateObject(int64_t size, coSort const *sort) {
+    void *mem = takeKeptBlock(size);
+    if (!mem) mem = allocateNewObject(size);
+    auto *obj = static_cast<coObj *>(mem);
+    obj->itsSort = sort;
+    obj->count.store(1, std::memory_order_relaxed);
+    return mem;
+}
 
 // An owned reference, given up at the end of the scope unless taken. For codecs, which leave by many ways.
 template <class T> class Ref {

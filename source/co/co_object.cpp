@@ -6,6 +6,7 @@
 #include <co/co.h>
 #include <co/co_assert.hpp>
 #include <co/co_obj.hpp>
+#include <co/co_string.hpp>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -23,12 +24,9 @@ void co___Abort(char const *message, char const *file, int64_t line, char const 
     std::abort();
 }
 
-void *co::allocateObject(int64_t size, coSort const *sort) {
-    void *mem = std::malloc(static_cast<size_t>(size));
+void *co::allocateNewObject(int64_t size) {
+    void *mem = allocateNewBlock(size);
     CO_ASSERT_SAYING("out of memory", mem, "mem");
-    auto *obj = static_cast<coObj *>(mem);
-    obj->itsSort = sort;
-    obj->count.store(1, std::memory_order_relaxed);
     return mem;
 }
 
@@ -40,9 +38,17 @@ struct coObj *co___ObjCreate(int64_t size, struct coSort const *sort) {
     return obj;
 }
 
+// Apart, so that a string's way needs no stack.
+[[gnu::noinline]] static void freeOther(coObj *obj, coSort const *sort) {
+    int64_t const size = sort->sizeFunc ? sort->sizeFunc(obj) : sort->size; // asked while the object is whole
+    if (sort->freeFunc) sort->freeFunc(obj);
+    co::freeBlock(obj, size);
+}
+
 void co___ObjFree(struct coObj *obj) {
-    if (obj->itsSort->freeFunc) obj->itsSort->freeFunc(obj);
-    std::free(obj);
+    coSort const *sort = obj->itsSort;
+    if (sort != &co___sort_CO_STRING) return freeOther(obj, sort);
+    co::freeBlock(obj, static_cast<coString const *>(obj)->size()); // most objects are strings, which hold nothing
 }
 
 struct coSort const *coObjSort(struct coObj const *obj) {

@@ -26,8 +26,8 @@ static coString *stringOfStore(coObj const *obj) {
     return coDictToString(static_cast<coStore const *>(obj)->values.get());
 }
 
-constinit coSort const co___sort_CO_STORE{&co___sort_CO_SORT,       &co___module,  "CO_STORE",
-                                          co::freeMembers<coStore>, compareStores, stringOfStore};
+constinit coSort const co___sort_CO_STORE{&co___sort_CO_SORT, &co___module,  "CO_STORE",     co::freeMembers<coStore>,
+                                          compareStores,      stringOfStore, sizeof(coStore)};
 
 CO_DEFINE_FAMILY(coStore, co___sort_CO_STORE)
 

@@ -21,16 +21,17 @@ static int compareStrings(coObj const *objA, coObj const *objB) {
 
 static coString *stringOfString(coObj const *obj) { return co::retained(static_cast<coString const *>(obj)); }
 
-constinit coSort const co___sort_CO_STRING{&co___sort_CO_SORT, &co___module,  "CO_STRING", nullptr,
-                                           compareStrings,     stringOfString};
+static int64_t sizeOfString(coObj const *obj) { return static_cast<coString const *>(obj)->size(); }
+
+constinit coSort const co___sort_CO_STRING{&co___sort_CO_SORT, &co___module,   "CO_STRING", nullptr,
+                                           compareStrings,     stringOfString, 0,           sizeOfString};
 
 CO_DEFINE_FAMILY(coString, co___sort_CO_STRING)
 
 // Creation.
 
 coString *co::makeString(int64_t capacity) {
-    auto const size = static_cast<int64_t>(sizeof(coString)) + capacity * static_cast<int64_t>(sizeof(coChar));
-    auto *string = static_cast<coString *>(allocateObject(size, &co___sort_CO_STRING));
+    auto *string = static_cast<coString *>(allocateObject(coString::sizeFor(capacity), &co___sort_CO_STRING));
     string->length = 0;
     string->capacity = capacity;
     return string;

@@ -12,12 +12,16 @@ struct coString : coObj {
     int64_t length;
     int64_t capacity;
 
+    static constexpr int64_t sizeFor(int64_t room) {
+        return static_cast<int64_t>(sizeof(coObj) + 2 * sizeof(int64_t)) + room * static_cast<int64_t>(sizeof(coChar));
+    }
+    int64_t size() const { return sizeFor(capacity); } // of its memory, in bytes
     coChar *chars() { return reinterpret_cast<coChar *>(this + 1); }
     coChar const *chars() const { return reinterpret_cast<coChar const *>(this + 1); }
     std::u32string_view view() const { return {chars(), static_cast<size_t>(length)}; }
 };
 
-extern "C" struct coSort const co___sort_CO_STRING;
+extern "C" __attribute__((visibility("hidden"))) struct coSort const co___sort_CO_STRING;
 
 namespace co {
 

@@ -34,8 +34,8 @@ static coString *stringOfTime(coObj const *obj) {
                                         time->day.get(), time->hour.get(), time->minute.get(), time->second.get());
 }
 
-constinit coSort const co___sort_CO_TIME{&co___sort_CO_SORT,      &co___module, "CO_TIME",
-                                         co::freeMembers<coTime>, compareTimes, stringOfTime};
+constinit coSort const co___sort_CO_TIME{&co___sort_CO_SORT, &co___module, "CO_TIME",     co::freeMembers<coTime>,
+                                         compareTimes,       stringOfTime, sizeof(coTime)};
 
 CO_DEFINE_FAMILY(coTime, co___sort_CO_TIME)
 

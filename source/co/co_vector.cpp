@@ -5,15 +5,20 @@
 #include <algorithm>
 #include <co/co_assert.hpp>
 #include <co/co_family.hpp>
-#include <co/co_memory.h>
 #include <co/co_string.hpp>
 #include <co/co_vector.hpp>
 #include <cstring>
 
+static int64_t sizeOfItems(int64_t capacity) { return capacity * static_cast<int64_t>(sizeof(coObj *)); }
+
+static void freeItems(coVector *vector) {
+    if (vector->items != vector->few) co::freeBlock(vector->items, sizeOfItems(vector->capacity));
+}
+
 static void freeVector(coObj *obj) {
     auto *vector = static_cast<coVector *>(obj);
     for (int64_t i = 0; i < vector->length; i++) co::release(vector->at(i));
-    coMemFree(vector->items);
+    freeItems(vector);
     vector->items = co::released<coObj *>();
 }
 
@@ -38,17 +43,18 @@ static coString *stringOfVector(coObj const *obj) {
     return text;
 }
 
-constinit coSort const co___sort_CO_VECTOR{&co___sort_CO_SORT, &co___module,   "CO_VECTOR",
-                                           freeVector,         compareVectors, stringOfVector};
+constinit coSort const co___sort_CO_VECTOR{&co___sort_CO_SORT, &co___module,   "CO_VECTOR",     freeVector,
+                                           compareVectors,     stringOfVector, sizeof(coVector)};
 
 CO_DEFINE_FAMILY(coVector, co___sort_CO_VECTOR)
 
 static coVector *makeVector(int64_t capacity) {
     auto *vector = static_cast<coVector *>(co::allocateObject(sizeof(coVector), &co___sort_CO_VECTOR));
-    vector->items = capacity ? static_cast<coObj **>(coMemAllocN(capacity, sizeof(coObj *))) : nullptr;
+    bool const isFew = capacity <= coVector::fewItems;
+    vector->items = isFew ? vector->few : static_cast<coObj **>(co::allocateBlock(sizeOfItems(capacity)));
     vector->head = 0;
     vector->length = 0;
-    vector->capacity = capacity;
+    vector->capacity = isFew ? coVector::fewItems : capacity;
     return vector;
 }
 
@@ -92,22 +98,34 @@ static coVector *writable(coVector **vector) {
 }
 
 // Makes room for one more element at one end; the array grows by half, so that an addition is amortised constant.
-static void reserve(coVector *vector, bool atFront) {
-    if (atFront ? vector->head > 0 : vector->head + vector->length < vector->capacity) return;
+[[gnu::noinline]] static void grow(coVector *vector, bool atFront) {
     int64_t const spare = vector->length / 2 + 4;
-    auto *items = static_cast<coObj **>(coMemAllocN(vector->length + spare, sizeof(coObj *)));
+    auto *items = static_cast<coObj **>(co::allocateBlock(sizeOfItems(vector->length + spare)));
     int64_t const head = atFront ? spare : 0;
     if (vector->length)
         std::memcpy(items + head, vector->items + vector->head, static_cast<size_t>(vector->length) * sizeof(coObj *));
-    coMemFree(vector->items);
+    freeItems(vector);
     vector->items = items;
     vector->head = head;
     vector->capacity = vector->length + spare;
 }
 
+static void reserve(coVector *vector, bool atFront) {
+    if (atFront ? vector->head > 0 : vector->head + vector->length < vector->capacity) return;
+    grow(vector, atFront);
+}
+
+// Which end moves to make room before the element at `index`: the nearer one, or, of few items, one that has room.
+static bool movesFront(coVector const *vector, int64_t index) {
+    bool const isNearer = index < vector->length - index;
+    if (vector->items != vector->few) return isNearer;
+    bool const hasRoomBehind = vector->head + vector->length < vector->capacity;
+    return vector->head > 0 ? isNearer || !hasRoomBehind : isNearer && !hasRoomBehind;
+}
+
 static void insert(coVector **reference, int64_t index, coObj *taken) {
     coVector *vector = writable(reference);
-    bool const atFront = index < vector->length - index;
+    bool const atFront = movesFront(vector, index);
     reserve(vector, atFront);
     coObj **first = vector->items + vector->head;
     if (atFront) {

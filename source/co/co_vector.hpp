@@ -4,12 +4,15 @@
 #include <co/co_obj.hpp>
 #include <co/co_vector.h>
 
-// The elements are items[head] to items[head + length - 1]: both ends can be changed without moving the rest.
+// The elements are items[head] to items[head + length - 1]: both ends can be changed without moving the rest. The items
+// are the few in the object itself until it outgrows them.
 struct coVector : coObj {
     coObj **items;
     int64_t head;
     int64_t length;
     int64_t capacity;
+    static constexpr int64_t fewItems = 4;
+    coObj *few[fewItems];
 
     coObj *at(int64_t index) const { return items[head + index]; }
 };

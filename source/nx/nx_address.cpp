@@ -33,8 +33,8 @@ static coString *stringOfAddress(coObj const *obj) {
 }
 
 extern "C" struct coSort const nx___sort_NX_ADDRESS;
-constinit coSort const nx___sort_NX_ADDRESS{&co___sort_CO_SORT, &nx___module,   "NX_ADDRESS", nullptr,
-                                            compareAddresses,   stringOfAddress};
+constinit coSort const nx___sort_NX_ADDRESS{&co___sort_CO_SORT, &nx___module,    "NX_ADDRESS",     nullptr,
+                                            compareAddresses,   stringOfAddress, sizeof(nxAddress)};
 
 CO_DEFINE_FAMILY(nxAddress, nx___sort_NX_ADDRESS)
 

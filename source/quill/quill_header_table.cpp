@@ -18,8 +18,17 @@ using Bytes = std::string_view;
 
 static void freeNothing(coObj *) {}
 
-constinit coSort const WireText::sort{&co___sort_CO_SORT, &quill___module, "QUILL_WIRE_TEXT",
-                                      freeNothing,        nullptr,         nullptr};
+static int64_t sizeOfWireText(int64_t lineCount, int64_t byteCount) {
+    return static_cast<int64_t>(sizeof(WireText)) + lineCount * static_cast<int64_t>(sizeof(WireLine)) + byteCount;
+}
+
+static int64_t sizeOfWireText(coObj const *obj) {
+    auto const *text = static_cast<WireText const *>(obj);
+    return sizeOfWireText(text->lineCount, text->byteCount);
+}
+
+constinit coSort const WireText::sort{
+    &co___sort_CO_SORT, &quill___module, "QUILL_WIRE_TEXT", freeNothing, nullptr, nullptr, 0, sizeOfWireText};
 
 namespace {
 
@@ -66,6 +75,7 @@ struct HeaderSet : coObj {
     uint32_t placeOfKnown[knownFieldNameCount];
 
     HeaderEntry *inlineEntries() { return reinterpret_cast<HeaderEntry *>(this + 1); }
+    bool hasOutgrown() const { return entries != reinterpret_cast<HeaderEntry const *>(this + 1); }
     uint32_t find(co::Chars name, int known) const;
     uint32_t add(HeaderEntry entry, int known); // takes the entry's references over
     void remove(uint32_t place, int known);
@@ -77,9 +87,18 @@ private:
     void closeGaps();
 };
 
+static int64_t sizeOfHeaderSet(int64_t capacity) {
+    return static_cast<int64_t>(sizeof(HeaderSet)) + capacity * static_cast<int64_t>(sizeof(HeaderEntry));
+}
+
+// A set that outgrew its memory has forgotten how much that was.
+static int64_t sizeOfHeaderSet(coObj const *obj) {
+    auto const *set = static_cast<HeaderSet const *>(obj);
+    return set->hasOutgrown() ? 0 : sizeOfHeaderSet(set->capacity);
+}
+
 static HeaderSet *makeHeaderSet(int64_t capacity) {
-    int64_t const size = static_cast<int64_t>(sizeof(HeaderSet) + sizeof(HeaderEntry) * static_cast<size_t>(capacity));
-    auto *set = static_cast<HeaderSet *>(co::allocateObject(size, &HeaderSet::sort));
+    auto *set = static_cast<HeaderSet *>(co::allocateObject(sizeOfHeaderSet(capacity), &HeaderSet::sort));
     set->text = nullptr;
     set->entries = set->inlineEntries();
     set->used = set->length = set->unknown = 0;
@@ -91,7 +110,7 @@ static HeaderSet *makeHeaderSet(int64_t capacity) {
 }
 
 static void freeEntries(HeaderSet *set) {
-    if (set->entries != set->inlineEntries()) coMemFree(set->entries);
+    if (set->hasOutgrown()) coMemFree(set->entries);
 }
 
 static void releaseEntry(HeaderEntry const &entry) {
@@ -110,8 +129,8 @@ static void freeHeaderSet(coObj *obj) {
     set->text = co::released<WireText>();
 }
 
-constinit coSort const HeaderSet::sort{&co___sort_CO_SORT, &quill___module, "QUILL_HEADER_SET",
-                                       freeHeaderSet,      nullptr,         nullptr};
+constinit coSort const HeaderSet::sort{
+    &co___sort_CO_SORT, &quill___module, "QUILL_HEADER_SET", freeHeaderSet, nullptr, nullptr, 0, sizeOfHeaderSet};
 
 uint32_t HeaderSet::find(co::Chars name, int known) const {
     if (known >= 0) return placeOfKnown[known];
@@ -350,9 +369,7 @@ bool HeaderTable::tryDecode(Bytes lines, bool ascii) {
     if (!splitter.split()) return false;
     LineIndex const &index = splitter.index;
     auto const byteCount = static_cast<int64_t>(lines.size());
-    int64_t const size =
-        static_cast<int64_t>(sizeof(WireText)) + index.count * static_cast<int64_t>(sizeof(WireLine)) + byteCount;
-    auto *text = static_cast<WireText *>(co::allocateObject(size, &WireText::sort));
+    auto *text = static_cast<WireText *>(co::allocateObject(sizeOfWireText(index.count, byteCount), &WireText::sort));
     text->lineCount = index.count;
     text->byteCount = byteCount;
     text->ascii = ascii;

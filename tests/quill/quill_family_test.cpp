@@ -112,7 +112,7 @@ bool isReference(uint64_t word) {
 
 std::vector<size_t> slotsOf(coObj const *obj) {
     auto const *words = reinterpret_cast<uint64_t const *>(obj + 1);
-    size_t const length = (sizeOf(obj) - sizeof(coObj)) / sizeof *words;
+    size_t const length = (static_cast<size_t>(obj->itsSort->size) - sizeof(coObj)) / sizeof *words;
     std::vector<size_t> slots;
     for (size_t i = 0; i < length; i++)
         if (isReference(words[i])) slots.push_back(i);
