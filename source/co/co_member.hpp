@@ -112,6 +112,9 @@ struct WithLine : coObj {
 
 inline constexpr int64_t longestLine = INT32_MAX; // that a slot can point into
 
+template <class T> constexpr int64_t sizeWithLine(int64_t lineLength) {
+    return static_cast<int64_t>(sizeof(T)) + lineLength * static_cast<int64_t>(sizeof(coChar));
+}
 template <class T> coChar *lineOf(T const *obj) { return reinterpret_cast<coChar *>(const_cast<T *>(obj) + 1); }
 
 // A signed 64-bit integer; -1 for absent.
@@ -145,10 +148,17 @@ private:
     bool flag;
 };
 
+// How a sort tells the size of its objects where they are not all of one size.
+template <class T> constexpr auto sizeFunction() -> int64_t (*)(coObj const *) {
+    if constexpr (std::is_base_of_v<WithLine, T>)
+        return [](coObj const *obj) { return sizeWithLine<T>(static_cast<T const *>(obj)->lineLength); };
+    else
+        return nullptr;
+}
+
 // A new object of a type with members, their values left open, with room for a line.
 template <class T> T *allocateWithLine(int64_t lineLength) {
-    auto const size = static_cast<int64_t>(sizeof(T)) + lineLength * static_cast<int64_t>(sizeof(coChar));
-    auto *obj = static_cast<T *>(allocateObject(size, &T::sort));
+    auto *obj = static_cast<T *>(allocateObject(sizeWithLine<T>(lineLength), &T::sort));
     if constexpr (std::is_base_of_v<WithLine, T>) obj->lineLength = lineLength;
     return obj;
 }
