@@ -1,7 +1,7 @@
 // UTF-8, both ways. Contract: co_utf8.hpp.
 
+#include <co/co_simd.hpp>
 #include <co/co_utf8.hpp>
-#include <cstring>
 
 namespace {
 
@@ -20,18 +20,6 @@ constexpr Lead lead(uint8_t byte) {
     if (byte < 0xF0) return {2, uint8_t(byte == 0xE0 ? 0xA0 : 0x80), uint8_t(byte == 0xED ? 0x9F : 0xBF)};
     if (byte < 0xF5) return {3, uint8_t(byte == 0xF0 ? 0x90 : 0x80), uint8_t(byte == 0xF4 ? 0x8F : 0xBF)};
     return {0, 1, 0};
-}
-
-// How many leading bytes are ASCII. Most text is nothing else, and eight bytes at a time are soon read.
-size_t asciiRun(std::string_view bytes) {
-    constexpr uint64_t highBits = 0x8080808080808080;
-    size_t count = 0;
-    for (uint64_t word = 0; count + sizeof word <= bytes.size(); count += sizeof word) {
-        std::memcpy(&word, bytes.data() + count, sizeof word);
-        if (word & highBits) break;
-    }
-    while (count < bytes.size() && static_cast<uint8_t>(bytes[count]) < 0x80) count++;
-    return count;
 }
 
 bool startsLong(std::string_view bytes) { return !bytes.empty() && static_cast<uint8_t>(bytes[0]) >= 0x80; }
@@ -64,7 +52,7 @@ namespace co {
 Utf8Count countUtf8(std::string_view bytes) {
     size_t chars = 0;
     for (;;) {
-        size_t const ascii = asciiRun(bytes);
+        size_t const ascii = simd::asciiRun(bytes);
         chars += ascii;
         bytes.remove_prefix(ascii);
         if (bytes.empty()) return {true, static_cast<int64_t>(chars)};
@@ -76,14 +64,9 @@ Utf8Count countUtf8(std::string_view bytes) {
     }
 }
 
-coChar *widenAscii(coChar *__restrict chars, std::string_view ascii) {
-    constexpr size_t step = 16; // known to the compiler, which makes vector instructions of it
-    char const *__restrict bytes = ascii.data();
-    size_t i = 0;
-    for (; i + step <= ascii.size(); i += step)
-        for (size_t k = 0; k < step; k++) chars[i + k] = static_cast<uint8_t>(bytes[i + k]);
-    for (; i < ascii.size(); i++) chars[i] = static_cast<uint8_t>(bytes[i]);
-    return chars + i;
+coChar *widenAscii(coChar *chars, std::string_view ascii) {
+    simd::widen(chars, ascii);
+    return chars + ascii.size();
 }
 
 coChar *widenUtf8(coChar *chars, std::string_view valid) { return chars + widenAnyBytes(chars, valid); }
@@ -91,7 +74,7 @@ coChar *widenUtf8(coChar *chars, std::string_view valid) { return chars + widenA
 int64_t widenAnyBytes(coChar *chars, std::string_view bytes) {
     size_t count = 0;
     for (;;) {
-        size_t const ascii = asciiRun(bytes);
+        size_t const ascii = simd::asciiRun(bytes);
         if (chars) widenAscii(chars + count, bytes.substr(0, ascii));
         count += ascii;
         bytes.remove_prefix(ascii);
@@ -104,37 +87,48 @@ int64_t widenAnyBytes(coChar *chars, std::string_view bytes) {
     }
 }
 
-static coChar scalar(coChar ch) { return ch > 0x10FFFF || (ch >= 0xD800 && ch < 0xE000) ? replacement : ch; }
+static coChar scalarValue(coChar ch) { return ch > 0x10FFFF || (ch >= 0xD800 && ch < 0xE000) ? replacement : ch; }
+
+static bool startsLong(std::u32string_view chars) { return !chars.empty() && chars[0] >= 0x80; }
 
 int64_t utf8Length(std::u32string_view chars) {
-    int64_t bytes = 0;
-    for (coChar raw : chars) {
-        coChar const ch = scalar(raw);
-        bytes += 1 + (ch >= 0x80) + (ch >= 0x800) + (ch >= 0x10000);
+    size_t bytes = 0;
+    for (;;) {
+        size_t const ascii = simd::asciiRun(chars);
+        bytes += ascii;
+        chars.remove_prefix(ascii);
+        if (chars.empty()) return static_cast<int64_t>(bytes);
+        for (; startsLong(chars); chars.remove_prefix(1)) {
+            coChar const ch = scalarValue(chars[0]);
+            bytes += size_t{2} + (ch >= 0x800) + (ch >= 0x10000);
+        }
     }
+}
+
+// Writes a code point beyond US-ASCII.
+static uint8_t *narrowLong(uint8_t *bytes, coChar ch) {
+    if (ch < 0x800) {
+        *bytes++ = static_cast<uint8_t>(0xC0 | ch >> 6);
+    } else if (ch < 0x10000) {
+        *bytes++ = static_cast<uint8_t>(0xE0 | ch >> 12);
+        *bytes++ = static_cast<uint8_t>(0x80 | (ch >> 6 & 0x3F));
+    } else {
+        *bytes++ = static_cast<uint8_t>(0xF0 | ch >> 18);
+        *bytes++ = static_cast<uint8_t>(0x80 | (ch >> 12 & 0x3F));
+        *bytes++ = static_cast<uint8_t>(0x80 | (ch >> 6 & 0x3F));
+    }
+    *bytes++ = static_cast<uint8_t>(0x80 | (ch & 0x3F));
     return bytes;
 }
 
 uint8_t *narrowToUtf8(uint8_t *bytes, std::u32string_view chars) {
-    for (coChar raw : chars) {
-        if (raw < 0x80) {
-            *bytes++ = static_cast<uint8_t>(raw);
-            continue;
-        }
-        coChar const ch = scalar(raw);
-        if (ch < 0x800) {
-            *bytes++ = static_cast<uint8_t>(0xC0 | ch >> 6);
-        } else if (ch < 0x10000) {
-            *bytes++ = static_cast<uint8_t>(0xE0 | ch >> 12);
-            *bytes++ = static_cast<uint8_t>(0x80 | (ch >> 6 & 0x3F));
-        } else {
-            *bytes++ = static_cast<uint8_t>(0xF0 | ch >> 18);
-            *bytes++ = static_cast<uint8_t>(0x80 | (ch >> 12 & 0x3F));
-            *bytes++ = static_cast<uint8_t>(0x80 | (ch >> 6 & 0x3F));
-        }
-        *bytes++ = static_cast<uint8_t>(0x80 | (ch & 0x3F));
+    for (;;) {
+        size_t const ascii = simd::narrow(bytes, chars);
+        bytes += ascii;
+        chars.remove_prefix(ascii);
+        if (chars.empty()) return bytes;
+        for (; startsLong(chars); chars.remove_prefix(1)) bytes = narrowLong(bytes, scalarValue(chars[0]));
     }
-    return bytes;
 }
 
 } // namespace co

@@ -2,6 +2,7 @@
 
 #define CO_UNIT "source/loc/loc_skip"
 
+#include <array>
 #include <co/co_assert.hpp>
 #include <co/co_ip.hpp>
 #include <co/co_scan.hpp>
@@ -36,11 +37,21 @@ constexpr CharSet queryChars = pathChars + "?";
 // What belongs to every part and decides nothing: most of an IRI is runs of these.
 constexpr CharSet plain = unreserved + "!$&'()*+=";
 
-size_t plainRun(Chars text, int64_t at) {
-    auto i = static_cast<size_t>(at);
-    while (i < text.size() && plain.has(text[i])) i++;
-    return i;
+constexpr auto isPlain = [] {
+    std::array<bool, 128> members{};
+    for (coChar ch = 0; ch < 128; ch++) members[ch] = plain.has(ch);
+    return members;
+}();
+
+int64_t plainRun(Chars text, int64_t from) {
+    coChar const *at = text.data() + from;
+    coChar const *const end = text.data() + text.size();
+    while (at < end && *at < 128 && isPlain[*at]) at++;
+    return at - text.data();
 }
+
+// What stands in all parts of a SIP URI, whose host may be an IPv6 reference.
+constexpr CharSet sipDelimiters = ":;@/[]";
 
 enum class Part { path, query, fragment }; // an authority is the beginning of the path here
 
@@ -90,7 +101,7 @@ int64_t hierPartLength(Chars text, coChar end) {
     int64_t at = authority ? 2 : 0;
     Part part = Part::path;
     for (;;) {
-        if (!hostBegins) at = static_cast<int64_t>(plainRun(text, at));
+        if (!hostBegins) at = plainRun(text, at);
         if (at >= co::length(text)) break;
         Chars const rest = from(text, at);
         int64_t const reference = hostBegins ? ipV6ReferenceLength(rest) : 0;
@@ -112,12 +123,13 @@ int64_t sipPartLength(Chars text, coChar end) {
     int64_t at = 0;
     Part part = Part::path;
     for (;;) {
-        at = static_cast<int64_t>(plainRun(text, at));
+        at = plainRun(text, at);
         if (at >= co::length(text)) break;
         Chars const rest = from(text, at);
         coChar const ch = rest[0];
-        int64_t const length = ch == U'[' || ch == U']' ? 1 : step(rest, part);
-        if (ch == end || length == 0) break;
+        if (ch == end) break;
+        int64_t const length = sipDelimiters.has(ch) ? 1 : step(rest, part);
+        if (length == 0) break;
         if (ch == U':') colons++;
         if (ch == U'@' || colons > 1) userMayFollow = false;
         if (ch == U'@') comma = -1;

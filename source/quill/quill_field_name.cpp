@@ -1,7 +1,10 @@
 // Names of header fields. Contract: quill_field_name.hpp.
 
 #include <array>
+#include <bit>
+#include <co/co_simd.hpp>
 #include <co/co_unicode.hpp>
+#include <cstring>
 #include <quill/quill_char.hpp>
 #include <quill/quill_family.hpp>
 #include <quill/quill_field_name.hpp>
@@ -48,29 +51,34 @@ constexpr Compact compact[] = {
     {'v', "Via"},
 };
 
-constexpr coChar code(char ch) { return static_cast<unsigned char>(ch); }
-constexpr coChar code(coChar ch) { return ch; }
+constexpr char lowerOf(char ch) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch + 32) : ch; }
+constexpr char upperOf(char ch) { return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - 32) : ch; }
 
-// A known name in the forms in which it is compared and written. A letter that stands in a text matches either case: its
-// bit for the case is set before it is compared.
+// The bytes of a name in whole words, zeros behind it: names are compared eight letters at a time.
+constexpr size_t longest = 24;
+using Letters = std::array<char, longest>;
+using Words = std::array<uint64_t, longest / sizeof(uint64_t)>;
+
+// A known name in its normal form: upper case for the first letter and those after a hyphen. A letter that stands in a
+// text matches either case, so that the bit for the case counts only where there is no letter.
 struct Known {
     size_t length;
-    std::array<char, 24> lower;
-    std::array<char, 24> caseBit;
-    std::array<char, 24> normal;
+    Words normal;
+    Words inName; // bits that belong to the name
+    Words counts; // bits that matter in any case
 };
 
 consteval Known formsOf(std::string_view name) {
-    Known forms{name.size(), {}, {}, {}};
+    Letters text{}, inName{}, counts{};
     for (size_t i = 0; i < name.size(); i++) {
-        coChar const lower = co::asciiLower(code(name[i]));
-        bool const isLetter = lower >= U'a' && lower <= U'z';
+        char const lower = lowerOf(name[i]);
+        bool const isLetter = lower >= 'a' && lower <= 'z';
         bool const atStart = i == 0 || name[i - 1] == '-';
-        forms.lower[i] = static_cast<char>(lower);
-        forms.caseBit[i] = isLetter ? 0x20 : 0;
-        forms.normal[i] = static_cast<char>(atStart ? co::asciiUpper(lower) : lower);
+        text[i] = atStart ? upperOf(lower) : lower;
+        inName[i] = '\xFF';
+        counts[i] = isLetter ? '\xDF' : '\xFF';
     }
-    return forms;
+    return {name.size(), std::bit_cast<Words>(text), std::bit_cast<Words>(inName), std::bit_cast<Words>(counts)};
 }
 
 consteval auto allForms() {
@@ -81,36 +89,41 @@ consteval auto allForms() {
 
 constexpr std::array<Known, std::size(known)> knownForms = allForms();
 
-template <class Char> constexpr bool matches(std::basic_string_view<Char> name, Known const &forms) {
-    if (name.size() != forms.length) return false;
-    for (size_t i = 0; i < name.size(); i++)
-        if ((code(name[i]) | code(forms.caseBit[i])) != code(forms.lower[i])) return false;
-    return true;
-}
-
-// Length, first, middle and last letter tell all known names apart; a multiplier spreads them over the slots without
-// collision. It is looked for when this is compiled.
+// The first eight letters in any case and the length tell all known names apart; a multiplier spreads them over the slots
+// without collision. It is looked for when this is compiled.
 constexpr int slotBits = 9;
 
-template <class Char> constexpr size_t slotOf(std::basic_string_view<Char> name, uint32_t multiplier) {
-    auto const letter = [&](size_t i) { return code(name[i]) | 0x20; };
-    uint32_t const key = static_cast<uint32_t>(name.size()) ^ letter(0) << 8 ^ letter(name.size() / 2) << 16 ^
-                         letter(name.size() - 1) << 24;
-    return key * multiplier >> (32 - slotBits);
+constexpr size_t slotOf(uint64_t firstWord, size_t length, uint64_t multiplier) {
+    return ((firstWord | 0x2020202020202020) ^ length) * multiplier >> (64 - slotBits);
 }
 
+// The first word of a name alone, without what stands behind the name.
+constexpr uint64_t firstWord(std::string_view name) {
+    std::array<char, sizeof(uint64_t)> letters{};
+    for (size_t i = 0; i < letters.size() && i < name.size(); i++) letters[i] = name[i];
+    return std::bit_cast<uint64_t>(letters);
+}
+
+// The bits of a first word that belong to a name, by its length.
+constexpr auto firstWordMasks = [] {
+    std::array<uint64_t, longest + 1> masks{};
+    for (size_t length = 0; length <= longest; length++)
+        masks[length] = firstWord(std::string_view("\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF").substr(0, length));
+    return masks;
+}();
+
 struct Slots {
-    uint32_t multiplier;
+    uint64_t multiplier;
     std::array<int8_t, 1 << slotBits> at;
 };
 
 consteval Slots findSlots() {
-    for (uint32_t multiplier = 0x9E3779B1;; multiplier += 2) {
+    for (uint64_t multiplier = 0x9E3779B97F4A7C15;; multiplier += 2) {
         Slots slots{multiplier, {}};
         slots.at.fill(-1);
         bool collision = false;
         for (size_t i = 0; i < std::size(known) && !collision; i++) {
-            int8_t &slot = slots.at[slotOf(known[i], multiplier)];
+            int8_t &slot = slots.at[slotOf(firstWord(known[i]), known[i].size(), multiplier)];
             collision = slot != -1;
             slot = static_cast<int8_t>(i);
         }
@@ -120,31 +133,72 @@ consteval Slots findSlots() {
 
 constexpr Slots slots = findSlots();
 
-constexpr int find(std::string_view name) {
-    int const i = name.empty() ? -1 : slots.at[slotOf(name, slots.multiplier)];
-    return i >= 0 && matches(name, knownForms[static_cast<size_t>(i)]) ? i : -1;
+// The one known name that a text of more than one letter can be, or -1.
+constexpr int candidate(uint64_t firstWord, size_t length) {
+    int const i = slots.at[slotOf(firstWord, length, slots.multiplier)];
+    return i >= 0 && knownForms[static_cast<size_t>(i)].length == length ? i : -1;
 }
 
 consteval auto findCompact() {
     std::array<int8_t, 26> letters{};
     letters.fill(-1);
-    for (auto [letter, name] : compact) letters[static_cast<size_t>(letter - 'a')] = static_cast<int8_t>(find(name));
+    for (auto [letter, name] : compact)
+        letters[static_cast<size_t>(letter - 'a')] = static_cast<int8_t>(candidate(firstWord(name), name.size()));
     return letters;
 }
 
 constexpr std::array<int8_t, 26> compactNames = findCompact();
 
-template <class Char> int findKnown(std::basic_string_view<Char> name) {
-    if (name.empty()) return -1;
-    if (name.size() == 1) {
-        coChar const letter = co::asciiLower(code(name[0]));
-        return letter >= U'a' && letter <= U'z' ? compactNames[letter - U'a'] : -1;
-    }
-    int const i = slots.at[slotOf(name, slots.multiplier)];
-    return i >= 0 && matches(name, knownForms[static_cast<size_t>(i)]) ? i : -1;
+int findCompactName(char ch) {
+    char const letter = lowerOf(ch);
+    return letter >= 'a' && letter <= 'z' ? compactNames[static_cast<size_t>(letter - 'a')] : -1;
 }
 
-coString *knownNames[std::size(known)];
+uint64_t wordAt(char const *text) {
+    uint64_t word = 0;
+    std::memcpy(&word, text, sizeof word);
+    return word;
+}
+
+// What the bits that a mask takes from each word of a text differ in.
+uint64_t difference(Words const &text, Words const &wanted, Words const &mask) {
+    static_assert(std::tuple_size_v<Words> == 3);
+    return ((text[0] ^ wanted[0]) & mask[0]) | ((text[1] ^ wanted[1]) & mask[1]) | ((text[2] ^ wanted[2]) & mask[2]);
+}
+
+// A name of more than one letter that a text begins with.
+inline quill::FieldName match(Words const &text, size_t length) {
+    int const i = candidate(text[0] & firstWordMasks[length], length);
+    if (i < 0) return {-1, false};
+    Known const &forms = knownForms[static_cast<size_t>(i)];
+    if (difference(text, forms.normal, forms.inName) == 0) return {i, true};
+    return {difference(text, forms.normal, forms.counts) == 0 ? i : -1, false};
+}
+
+// `readable` bytes can be read from the name's start on: as many as are compared, or else the name is copied.
+inline quill::FieldName match(std::string_view name, size_t readable) {
+    char const *const text = name.data();
+    size_t const length = name.size();
+    if (length <= 1) return {length == 0 ? -1 : findCompactName(*text), false};
+    if (length > longest) return {-1, false};
+    if (readable >= longest) return match({wordAt(text), wordAt(text + 8), wordAt(text + 16)}, length);
+    if (readable >= 16 && length <= 16) return match({wordAt(text), wordAt(text + 8), 0}, length);
+    Words copy{};
+    std::memcpy(&copy, text, length);
+    return match(copy, length);
+}
+
+int findKnown(std::string_view name) { return match(name, name.size()).known; }
+
+// A name that has other than ASCII characters in it, or too many, is none of the known ones.
+int findKnown(co::Chars name) {
+    uint8_t bytes[longest] = {};
+    if (name.size() > longest || co::simd::narrow(bytes, name) < name.size()) return -1;
+    return match({reinterpret_cast<char const *>(bytes), name.size()}, longest).known;
+}
+
+constexpr coChar code(char ch) { return static_cast<unsigned char>(ch); }
+constexpr coChar code(coChar ch) { return ch; }
 
 // Lower case, but upper case for the first letter and those after a hyphen.
 template <class Char> coString *makeNormal(std::basic_string_view<Char> name) {
@@ -159,11 +213,15 @@ template <class Char> coString *makeNormal(std::basic_string_view<Char> name) {
 }
 
 // A token is ASCII (RFC 3261, 25.1), so that its letters are too.
-template <class Char> coString *tryNormalize(std::basic_string_view<Char> name) {
-    if (int const i = findKnown(name); i >= 0) return co::retained(knownNames[i]);
+template <class Char> coString *tryMakeNormal(std::basic_string_view<Char> name) {
     for (Char ch : name)
         if (!quill::isToken(code(ch))) return nullptr;
     return name.empty() ? nullptr : makeNormal(name);
+}
+
+template <class Char> coString *tryNormalize(std::basic_string_view<Char> name) {
+    int const i = findKnown(name);
+    return i >= 0 ? co::retained(quill::sharedFieldNames[i]) : tryMakeNormal(name);
 }
 
 } // namespace
@@ -172,24 +230,29 @@ namespace quill {
 
 int knownFieldName(std::string_view name) { return findKnown(name); }
 int knownFieldName(co::Chars name) { return findKnown(name); }
+FieldName matchFieldName(std::string_view name, char const *end) {
+    return match(name, static_cast<size_t>(end - name.data()));
+}
 
 static_assert(std::size(known) == knownFieldNameCount);
-coString *fieldNameAt(int i) { return knownNames[i]; }
+static_assert(known[contentLengthFieldName] == "Content-Length");
+constinit coString *sharedFieldNames[knownFieldNameCount] = {};
 
 std::string_view fieldNameText(int i) {
     Known const &forms = knownForms[static_cast<size_t>(i)];
-    return {forms.normal.data(), forms.length};
+    return {reinterpret_cast<char const *>(forms.normal.data()), forms.length};
 }
 
 coString *tryNormalizeFieldName(std::string_view name) { return tryNormalize(name); }
 coString *tryNormalizeFieldName(co::Chars name) { return tryNormalize(name); }
+coString *tryMakeFieldName(std::string_view unknown) { return tryMakeNormal(unknown); }
 
 void startFieldNames() {
-    for (size_t i = 0; i < std::size(known); i++) startShared(&knownNames[i], makeNormal(known[i]));
+    for (size_t i = 0; i < std::size(known); i++) startShared(&sharedFieldNames[i], makeNormal(known[i]));
 }
 
 void stopFieldNames() {
-    for (coString *&name : knownNames) stopShared(&name);
+    for (coString *&name : sharedFieldNames) stopShared(&name);
 }
 
 } // namespace quill

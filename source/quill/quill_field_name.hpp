@@ -12,13 +12,24 @@ namespace quill {
 int knownFieldName(std::string_view name);
 int knownFieldName(co::Chars name);
 
+// The same, and whether the name is written in its normal form. The text that it stands in ends at `end`: a name with some
+// text behind it is compared in whole words.
+struct FieldName {
+    int known;
+    bool normal;
+};
+FieldName matchFieldName(std::string_view name, char const *end);
+
 inline constexpr int knownFieldNameCount = 65;
-coString *fieldNameAt(int known);          // borrowed; null before start-up, all ones after shut-down
-std::string_view fieldNameText(int known); // the same as bytes
+inline constexpr int contentLengthFieldName = 59;       // the number of Content-Length
+extern coString *sharedFieldNames[knownFieldNameCount]; // null before start-up, all ones after shut-down
+inline coString *fieldNameAt(int known) { return sharedFieldNames[known]; } // borrowed
+std::string_view fieldNameText(int known);                                  // the same as bytes
 
 // The normal form as an owned string, shared where the name is known; null where the text is no token.
 coString *tryNormalizeFieldName(std::string_view name);
 coString *tryNormalizeFieldName(co::Chars name);
+coString *tryMakeFieldName(std::string_view unknown); // of a name that is none of the known ones
 
 void startFieldNames();
 void stopFieldNames();

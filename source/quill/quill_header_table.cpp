@@ -6,6 +6,7 @@
 #include <co/co_assert.hpp>
 #include <co/co_hash.hpp>
 #include <co/co_memory.h>
+#include <co/co_simd.hpp>
 #include <cstring>
 #include <quill/quill_field_name.hpp>
 #include <quill/quill_header_table.hpp>
@@ -36,18 +37,21 @@ constexpr int64_t fewUnknown = 8; // names that are searched one after the other
 constexpr int64_t usualEntries = 20;
 constexpr uint32_t noEntry = UINT32_MAX;
 
-template <class T> T trimmed(T text) {
-    auto const isBlank = [](auto ch) { return ch == ' ' || ch == '\t'; };
-    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-    return text;
+bool isBlank(char ch) { return ch == ' ' || ch == '\t'; }
+
+inline Bytes trimmed(Bytes text) {
+    char const *start = text.begin();
+    char const *end = text.end();
+    while (start < end && isBlank(*start)) start++;
+    while (start < end && isBlank(end[-1])) end--;
+    return {start, end};
 }
 
 // What stands before the next line end; the rest stays without both.
 Bytes takeLine(Bytes *rest) {
-    size_t const end = rest->find("\r\n");
+    size_t const end = co::findLineEnd(*rest);
     Bytes const line = rest->substr(0, end);
-    rest->remove_prefix(end == Bytes::npos ? rest->size() : end + 2);
+    rest->remove_prefix(std::min(end + 2, rest->size()));
     return line;
 }
 
@@ -72,17 +76,21 @@ struct HeaderSet : coObj {
     int64_t unknown;  // entries of other names, with gaps
     uint32_t *slots;  // of other names, open addressing; null while they are few
     int64_t slotMask; // their number is a power of two
+    bool counts;      // some entry holds a reference
     uint32_t placeOfKnown[knownFieldNameCount];
 
     HeaderEntry *inlineEntries() { return reinterpret_cast<HeaderEntry *>(this + 1); }
     bool hasOutgrown() const { return entries != reinterpret_cast<HeaderEntry const *>(this + 1); }
-    uint32_t find(co::Chars name, int known) const;
-    uint32_t add(HeaderEntry entry, int known); // takes the entry's references over
-    void remove(uint32_t place, int known);
+    uint32_t find(int known) const { return placeOfKnown[known]; }
+    uint32_t findUnknown(co::Chars name) const;
+    uint32_t find(co::Chars name, int known) const { return known >= 0 ? find(known) : findUnknown(name); }
+    HeaderEntry &add(coString *name, int known); // without lines; takes over a reference to the name if it is unknown
+    void remove(uint32_t place);
 
 private:
     void grow();
     void index(uint32_t place);
+    void indexLast(); // a new entry of another name
     void indexAll();
     void closeGaps();
 };
@@ -105,6 +113,7 @@ static HeaderSet *makeHeaderSet(int64_t capacity) {
     set->capacity = capacity;
     set->slots = nullptr;
     set->slotMask = 0;
+    set->counts = false;
     std::fill(std::begin(set->placeOfKnown), std::end(set->placeOfKnown), noEntry);
     return set;
 }
@@ -113,15 +122,15 @@ static void freeEntries(HeaderSet *set) {
     if (set->hasOutgrown()) coMemFree(set->entries);
 }
 
+// The names of known fields are not counted.
 static void releaseEntry(HeaderEntry const &entry) {
-    if (!entry.name) return;
-    co::release(entry.name);
+    if (entry.known < 0 && entry.name) co::release(entry.name);
     if (entry.header) co::release(entry.header);
 }
 
 static void freeHeaderSet(coObj *obj) {
     auto *set = static_cast<HeaderSet *>(obj);
-    for (int64_t i = 0; i < set->used; i++) releaseEntry(set->entries[i]);
+    for (int64_t i = 0; set->counts && i < set->used; i++) releaseEntry(set->entries[i]);
     if (set->text) co::release(set->text);
     freeEntries(set);
     coMemFree(set->slots);
@@ -132,8 +141,7 @@ static void freeHeaderSet(coObj *obj) {
 constinit coSort const HeaderSet::sort{
     &co___sort_CO_SORT, &quill___module, "QUILL_HEADER_SET", freeHeaderSet, nullptr, nullptr, 0, sizeOfHeaderSet};
 
-uint32_t HeaderSet::find(co::Chars name, int known) const {
-    if (known >= 0) return placeOfKnown[known];
+uint32_t HeaderSet::findUnknown(co::Chars name) const {
     if (unknown == 0) return noEntry;
     if (slots) {
         for (auto slot = static_cast<int64_t>(co::hash(name)) & slotMask; slots[slot] != noEntry;
@@ -164,7 +172,7 @@ void HeaderSet::indexAll() {
     std::fill(slots, slots + slotCount, noEntry);
     slotMask = slotCount - 1;
     for (int64_t i = 0; i < used; i++)
-        if (entries[i].name && knownFieldName(entries[i].name->view()) < 0) index(static_cast<uint32_t>(i));
+        if (entries[i].name && entries[i].known < 0) index(static_cast<uint32_t>(i));
 }
 
 void HeaderSet::grow() {
@@ -176,29 +184,39 @@ void HeaderSet::grow() {
     capacity = wanted;
 }
 
-uint32_t HeaderSet::add(HeaderEntry entry, int known) {
-    if (used == capacity) grow();
-    auto const place = static_cast<uint32_t>(used++);
-    length++;
-    entries[place] = entry;
-    if (known >= 0) {
-        placeOfKnown[known] = place;
-        return place;
-    }
+void HeaderSet::indexLast() {
     unknown++;
+    counts = true;
     if (slots ? unknown * 2 > slotMask : unknown > fewUnknown)
         indexAll();
     else if (slots)
-        index(place);
-    return place;
+        index(static_cast<uint32_t>(used - 1));
 }
 
-void HeaderSet::remove(uint32_t place, int known) {
-    releaseEntry(entries[place]);
-    entries[place].name = nullptr;
-    entries[place].header = nullptr;
+inline HeaderEntry &HeaderSet::add(coString *name, int known) {
+    if (used == capacity) grow();
+    auto const place = static_cast<uint32_t>(used++);
+    length++;
+    HeaderEntry &entry = entries[place];
+    entry.name = name;
+    entry.header = nullptr;
+    entry.first = entry.last = noLine;
+    entry.count = 0;
+    entry.known = known;
+    if (known >= 0)
+        placeOfKnown[known] = place;
+    else
+        indexLast();
+    return entry;
+}
+
+void HeaderSet::remove(uint32_t place) {
+    HeaderEntry &entry = entries[place];
+    releaseEntry(entry);
+    entry.name = nullptr;
+    entry.header = nullptr;
     length--;
-    if (known >= 0) placeOfKnown[known] = noEntry;
+    if (entry.known >= 0) placeOfKnown[entry.known] = noEntry;
     if (used > 16 && length < used / 2) closeGaps();
 }
 
@@ -208,8 +226,7 @@ void HeaderSet::closeGaps() {
     for (int64_t i = 0; i < used; i++) {
         if (!entries[i].name) continue;
         entries[kept] = entries[i];
-        int const known = knownFieldName(entries[kept].name->view());
-        if (known >= 0)
+        if (int const known = entries[kept].known; known >= 0)
             placeOfKnown[known] = static_cast<uint32_t>(kept);
         else
             unknown++;
@@ -226,12 +243,13 @@ static HeaderSet *writable(co::Slot<HeaderSet> *slot) {
     HeaderSet *own = makeHeaderSet(old ? old->length + 2 : 8);
     if (old) {
         own->text = co::retained(old->text);
+        own->counts = old->counts;
         for (int64_t i = 0; i < old->used; i++) {
-            HeaderEntry entry = old->entries[i];
+            HeaderEntry const &entry = old->entries[i];
             if (!entry.name) continue;
-            co::retain(entry.name);
-            entry.header = co::retained(entry.header);
-            own->add(entry, knownFieldName(entry.name->view()));
+            if (entry.known < 0) co::retain(entry.name);
+            if (entry.header) co::retain(entry.header);
+            own->add(entry.name, entry.known) = entry;
         }
     }
     slot->adopt(own);
@@ -247,10 +265,10 @@ class LineIndex {
 public:
     ~LineIndex() { coMemFree(heap); }
 
-    uint32_t add(WireLine const &line) {
+    // One more, to be filled where it stands: a copy in whole blocks would wait until its small members are written.
+    WireLine *add() {
         if (count == capacity) grow();
-        lines[count] = line;
-        return static_cast<uint32_t>(count++);
+        return &lines[count++];
     }
 
     WireLine local[48];
@@ -274,109 +292,132 @@ bool equals(Bytes bytes, co::Chars chars) {
                       [](char byte, coChar ch) { return static_cast<unsigned char>(byte) == ch; });
 }
 
-// Splits header lines. A header is pending from its first line on until a line comes that does not continue it.
+// Splits header lines, each of which is found, named and entered in one go.
 class Splitter {
 public:
-    Splitter(Bytes all, HeaderSet *headerSet) : text(all), set(headerSet) {}
+    Splitter(Bytes all, bool toEmptyLine, HeaderSet *headerSet)
+        : text(all), returns(all, '\r'), untilEmptyLine(toEmptyLine), set(headerSet) {}
 
+    // A header goes on in the lines that begin with a blank. Blanks that follow no header say nothing.
     bool split() {
-        Bytes rest = text;
-        while (!rest.empty())
-            if (!add(takeLine(&rest))) return false;
-        return flush();
+        char const *at = text.begin();
+        while (at < text.end()) {
+            char const *start = at;
+            char const *end = takeLine(&at);
+            if (start == end && untilEmptyLine) return finish(start, at);
+            while (start < end && isBlank(*start)) start++;
+            if (start == end) continue;
+            bool folded = false;
+            for (; at < text.end() && isBlank(*at); folded = true) end = takeLine(&at);
+            if (!keep(start, end, folded)) return false;
+        }
+        return finish(at, at);
     }
 
+    Bytes headers; // what was split
+    Bytes rest;    // behind the empty line
     LineIndex index;
 
 private:
-    bool add(Bytes line) {
-        if (!pending.empty() && !line.empty() && (line.front() == ' ' || line.front() == '\t')) {
-            end = line.data() + line.size();
-            folded = true;
-            return true;
+    bool finish(char const *end, char const *next) {
+        headers = Bytes(text.begin(), end);
+        rest = Bytes(next, text.end());
+        return headers.size() < noLine;
+    }
+
+    // The end of the line; the next one is at hand then.
+    [[gnu::always_inline]] char const *takeLine(char const **at) {
+        for (;;) {
+            size_t const end = returns.next();
+            if (end + 1 >= text.size()) return *at = text.end();
+            if (text[end + 1] != '\n') continue;
+            *at = text.begin() + end + 2;
+            return text.begin() + end;
         }
-        if (!flush()) return false;
-        pending = trimmed(line);
-        end = line.data() + line.size();
-        return true;
     }
 
     // field-name HCOLON field-value, the name in one piece and the value in one or more
-    bool flush() {
-        if (pending.empty()) return true;
-        Bytes const whole(pending.data(), static_cast<size_t>(end - pending.data()));
-        size_t const colon = whole.find(':');
-        if (colon == Bytes::npos) return false;
-        Bytes const name = nameOf(whole.substr(0, colon));
-        Bytes const value = trimmed(whole.substr(colon + 1));
-        bool const kept = keep(name, value, colon);
-        pending = {};
-        folded = false;
-        return kept;
-    }
-
-    // A name with line ends around it is one nevertheless; empty where there are several pieces.
-    Bytes nameOf(Bytes beforeColon) const {
-        if (!folded) return trimmed(beforeColon);
-        Bytes name;
-        int pieces = 0;
-        forEachPiece(beforeColon, [&](Bytes piece) { name = piece, pieces++; });
-        return pieces == 1 ? name : Bytes();
-    }
-
-    bool keep(Bytes name, Bytes value, size_t colon) {
-        int const known = knownFieldName(name);
-        co::Ref<coString> normal(known >= 0 ? co::retained(fieldNameAt(known)) : tryNormalizeFieldName(name));
-        if (!normal) return false;
-        bool const manyPieces = folded && value.find("\r\n") != Bytes::npos;
-        bool const canonical = !folded && !value.empty() && value.data() == pending.data() + colon + 2 &&
-                               value.data()[-1] == ' ' && value.data() + value.size() == end && name.size() == colon &&
-                               equals(name, normal->view());
-        WireLine const line{offset(pending.data()),
-                            offset(value.data()),
-                            static_cast<uint32_t>(value.size()),
-                            noLine,
-                            manyPieces,
-                            canonical};
-        uint32_t const place = index.add(line);
-        uint32_t const at = set->find(normal->view(), known);
-        if (at == noEntry) {
-            set->add({normal.take(), nullptr, place, place, 1}, known);
-            return true;
+    bool keep(char const *start, char const *end, bool folded) {
+        char const *const colon = start + co::simd::find(Bytes(start, text.end()), ':');
+        if (colon >= end || colon == start) return false;
+        Bytes name(start, colon);
+        Bytes value(colon + 1, end);
+        // One blank behind the colon, and none at another place.
+        bool const usual = !folded && value.size() > 1 && value[0] == ' ' && !isBlank(value[1]) && !isBlank(end[-1]) &&
+                           !isBlank(colon[-1]);
+        if (usual) {
+            value.remove_prefix(1);
+        } else {
+            name = folded ? pieceOf(name) : trimmed(name);
+            value = trimmed(value);
         }
-        HeaderEntry &entry = set->entries[at];
-        index.lines[entry.last].next = place;
-        entry.last = place;
-        entry.count++;
+        FieldName const field = matchFieldName(name, text.end());
+        WireLine *const line = index.add();
+        line->start = offset(start);
+        line->value = offset(value.begin());
+        line->length = static_cast<uint32_t>(value.size());
+        line->next = noLine;
+        line->folded = folded && value.find("\r\n") != Bytes::npos;
+        line->canonical = usual && field.normal;
+        if (field.known < 0) return enterUnknown(name, usual);
+        enter(set->find(field.known), fieldNameAt(field.known), field.known);
         return true;
     }
 
-    uint32_t offset(char const *at) const { return static_cast<uint32_t>(at - text.data()); }
+    bool enterUnknown(Bytes name, bool usual) {
+        co::Ref<coString> normal(tryMakeFieldName(name));
+        if (!normal) return false;
+        index.lines[index.count - 1].canonical = usual && equals(name, normal->view());
+        uint32_t const place = set->findUnknown(normal->view());
+        enter(place, place == noEntry ? normal.take() : nullptr, -1);
+        return true;
+    }
 
-    Bytes text;
-    HeaderSet *set;
-    Bytes pending; // the first line, trimmed
-    char const *end = nullptr;
-    bool folded = false;
+    // The last line is one more of an entry, or the first one of a new entry.
+    void enter(uint32_t place, coString *name, int known) {
+        auto const line = static_cast<uint32_t>(index.count - 1);
+        HeaderEntry &entry = place == noEntry ? set->add(name, known) : set->entries[place];
+        (entry.count == 0 ? entry.first : index.lines[entry.last].next) = line;
+        entry.last = line;
+        entry.count++;
+    }
+
+    // A name with line ends around it is one nevertheless; empty where there are several pieces.
+    static Bytes pieceOf(Bytes folded) {
+        Bytes name;
+        int pieces = 0;
+        forEachPiece(folded, [&](Bytes piece) { name = piece, pieces++; });
+        return pieces == 1 ? name : Bytes();
+    }
+
+    uint32_t offset(char const *at) const { return static_cast<uint32_t>(at - text.begin()); }
+
+    Bytes const text;
+    co::simd::Places returns;
+    bool const untilEmptyLine;
+    HeaderSet *const set;
 };
 
 } // namespace
 
-bool HeaderTable::tryDecode(Bytes lines, bool ascii) {
-    if (lines.size() >= noLine) return false;
+bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine) {
     co::Ref<HeaderSet> set(makeHeaderSet(usualEntries));
-    Splitter splitter(lines, set.get());
+    Splitter splitter(*rest, untilEmptyLine, set.get());
     if (!splitter.split()) return false;
+    Bytes const lines = splitter.headers;
+    co::Utf8Count const chars = co::countUtf8(lines);
+    if (!chars.valid) return false;
     LineIndex const &index = splitter.index;
     auto const byteCount = static_cast<int64_t>(lines.size());
     auto *text = static_cast<WireText *>(co::allocateObject(sizeOfWireText(index.count, byteCount), &WireText::sort));
     text->lineCount = index.count;
     text->byteCount = byteCount;
-    text->ascii = ascii;
+    text->ascii = chars.chars == byteCount;
     std::copy(index.lines, index.lines + index.count, text->lines());
     std::copy(lines.begin(), lines.end(), text->bytes());
     set->text = text;
     headers.adopt(set.take());
+    *rest = splitter.rest;
     return true;
 }
 
@@ -391,8 +432,8 @@ HeaderEntry const *HeaderTable::find(co::Chars name) const {
 
 HeaderEntry const *HeaderTable::find(int known) const {
     HeaderSet const *set = headers.get();
-    if (!set || set->placeOfKnown[known] == noEntry) return nullptr;
-    return &set->entries[set->placeOfKnown[known]];
+    uint32_t const place = set ? set->find(known) : noEntry;
+    return place == noEntry ? nullptr : &set->entries[place];
 }
 
 // The bytes of a line's value, joined where it is folded.
@@ -505,11 +546,10 @@ void HeaderTable::set(struct quillMessageHeader *header) {
     co::Chars const name = header->name->view();
     int const known = knownFieldName(name);
     uint32_t const place = set->find(name, known);
-    if (place == noEntry) {
-        set->add({header->name.retained(), co::retained(header), noLine, noLine, 0}, known);
-        return;
-    }
-    HeaderEntry &entry = set->entries[place];
+    HeaderEntry &entry = place != noEntry ? set->entries[place]
+                         : known >= 0     ? set->add(fieldNameAt(known), known)
+                                          : set->add(header->name.retained(), known);
+    set->counts = true;
     if (struct quillMessageHeader *old = std::exchange(entry.header, co::retained(header))) co::release(old);
 }
 
@@ -517,7 +557,7 @@ void HeaderTable::remove(co::Chars name) {
     int const known = knownFieldName(name);
     if (!headers || headers->find(name, known) == noEntry) return;
     HeaderSet *set = writable(&headers);
-    set->remove(set->find(name, known), known); // a copy has other places
+    set->remove(set->find(name, known)); // a copy has other places
 }
 
 void HeaderTable::removeAll() { headers.clear(); }

@@ -53,13 +53,15 @@ struct HeaderEntry {
     uint32_t first;                    // of the lines
     uint32_t last;
     uint32_t count;
+    int32_t known; // the number of a known name, whose string is the shared one and not counted; or -1
 };
 
 // A member of the fragment like a co::Slot: copies share, changes make private.
 class HeaderTable {
 public:
-    // Reads header lines, which must be UTF-8, or all of them ASCII, into an empty table. False where one of them is none.
-    bool tryDecode(std::string_view lines, bool ascii);
+    // Reads header lines into an empty table: all of them, or those up to an empty line. What follows that line stays. False
+    // where a line is none of a header, or not UTF-8.
+    bool tryDecode(std::string_view *rest, bool untilEmptyLine);
 
     bool has(co::Chars name) const { return find(name) != nullptr; }
 

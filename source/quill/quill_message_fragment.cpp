@@ -8,6 +8,7 @@
 #include <quill/quill_message_fragment.hpp>
 #include <quill/quill_message_header.h>
 #include <quill/quill_method.h>
+#include <quill/quill_method.hpp>
 #include <quill/quill_reason_phrase.h>
 
 QUILL_DEFINE_SORT(MessageFragment, MESSAGE_FRAGMENT, nullptr, nullptr)
@@ -17,9 +18,13 @@ struct coString *quill___CosContentLength;
 
 void quill___MessageFragmentStartup(void) {
     quill::start(&quill___CosContentLength, coStringCreateFromCstr("Content-Length", -1));
+    quill::startMethods();
 }
 
-void quill___MessageFragmentShutdown(void) { quill::stop(&quill___CosContentLength); }
+void quill___MessageFragmentShutdown(void) {
+    quill::stop(&quill___CosContentLength);
+    quill::stopMethods();
+}
 
 struct quillMessageFragment *quillMessageFragmentCreate(void) {
     return co::make<quillMessageFragment>();

@@ -4,9 +4,12 @@
 
 #define CO_UNIT "source/quill/quill_message_fragment_decode"
 
+#include <algorithm>
 #include <co/co_format.hpp>
+#include <co/co_simd.hpp>
 #include <co/co_string.hpp>
-#include <loc/loc_iri.h>
+#include <loc/loc_iri.hpp>
+#include <loc/loc_skip.hpp>
 #include <quill/quill_char.hpp>
 #include <quill/quill_family.hpp>
 #include <quill/quill_field_name.hpp>
@@ -14,15 +17,15 @@
 #include <quill/quill_message_fragment.hpp>
 #include <quill/quill_message_header.h>
 #include <quill/quill_message_header.hpp>
+#include <quill/quill_method.hpp>
 #include <quill/quill_version.h>
 
 namespace {
 
 using Bytes = std::string_view;
 
-template <class Char> bool isBlank(Char ch) { return ch == Char{' '} || ch == Char{'\t'}; }
-
 template <class Text> Text trimmed(Text text) {
+    auto const isBlank = [](auto ch) { return ch == ' ' || ch == '\t'; };
     while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
     while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
     return text;
@@ -31,11 +34,11 @@ template <class Text> Text trimmed(Text text) {
 coString *toString(Bytes valid) { return co::makeStringFromUtf8(valid); }
 
 // What stands before the separator; the rest stays without both. False, and nothing is taken, where there is none.
-template <class Text> bool takeUntil(Text *rest, Text separator, Text *piece) {
-    size_t const at = rest->find(separator);
-    if (at == Text::npos) return false;
-    *piece = rest->substr(0, at);
-    rest->remove_prefix(at + separator.size());
+bool takeUntil(Bytes *rest, char separator, Bytes *piece) {
+    size_t const at = co::simd::find(*rest, separator);
+    if (at == rest->size()) return false;
+    *piece = Bytes(rest->data(), at);
+    rest->remove_prefix(at + 1);
     return true;
 }
 
@@ -46,23 +49,30 @@ bool isToken(Bytes text) {
 }
 
 // A whole text as a decimal integer.
-bool isInteger(Bytes text, int64_t *value) {
+template <class Text> bool isInteger(Text text, int64_t *value) {
     int64_t end = 0;
     return co::tryDecodeInt(text, 10, value, &end) && end == static_cast<int64_t>(text.size());
 }
 
 quillVersion *tryDecodeVersion(Bytes text) {
     if (text == "SIP/2.0") return quillVersionCreateSip20();
-    if (text.find('/') == Bytes::npos) // most first words are methods
-        return nullptr;
+    if (co::simd::find(text, '/') == text.size()) return nullptr;
     co::Ref<coString> const chars(toString(text));
     return quill___VersionTryDecode(chars->chars(), chars->length);
+}
+
+// The IRI that a whole URI stands for.
+coString *tryDecodeIri(Bytes text) {
+    co::Ref<coString> uri(toString(text));
+    if (text.empty() || loc::iriLength(uri->view()) != uri->length) return nullptr;
+    bool const escaped = co::simd::find(text, '%') < text.size();
+    return escaped ? loc::makeIri(uri->view()) : uri.take();
 }
 
 // The wire text of a phrase without escapes is the phrase.
 coString *decodeReasonPhrase(Bytes text) {
     co::Ref<coString> phrase(toString(text));
-    if (text.find('%') == Bytes::npos) return phrase.take();
+    if (co::simd::find(text, '%') == text.size()) return phrase.take();
     return quill___ReasonPhraseDecode(phrase->chars(), phrase->length);
 }
 
@@ -72,7 +82,7 @@ enum class StartLine { decoded, absent, broken };
 StartLine decodeStatusLine(quillMessageFragment *frag, quillVersion *version, Bytes rest) {
     Bytes code;
     Bytes phrase;
-    if (takeUntil(&rest, Bytes(" "), &code))
+    if (takeUntil(&rest, ' ', &code))
         phrase = rest;
     else
         code = rest;
@@ -86,12 +96,12 @@ StartLine decodeStatusLine(quillMessageFragment *frag, quillVersion *version, By
 
 // Method SP Request-URI SP SIP-Version
 StartLine decodeRequestLine(quillMessageFragment *frag, Bytes method, Bytes uri, Bytes version) {
-    co::Ref<coString> const uriText(toString(uri));
-    co::Ref<coString> iri(locTryConvertFromUri(uriText.get()));
+    co::Ref<coString> iri(tryDecodeIri(uri));
     if (!iri) return StartLine::broken;
     frag->version.adopt(tryDecodeVersion(version));
     if (!frag->version) return StartLine::broken;
-    frag->requestMethod.adopt(toString(method));
+    coString *const known = quill::knownMethod(method);
+    frag->requestMethod.adopt(known ? co::retained(known) : toString(method));
     frag->requestIri.adopt(iri.take());
     return StartLine::decoded;
 }
@@ -100,48 +110,47 @@ StartLine decodeRequestLine(quillMessageFragment *frag, Bytes method, Bytes uri,
 StartLine decodeStartLine(quillMessageFragment *frag, Bytes line) {
     Bytes rest = line;
     Bytes first;
-    if (!takeUntil(&rest, Bytes(" "), &first)) return StartLine::absent;
-    if (co::Ref<quillVersion> const version{tryDecodeVersion(first)})
-        return decodeStatusLine(frag, version.get(), rest);
-    Bytes second;
-    if (!isToken(first) || !takeUntil(&rest, Bytes(" "), &second)) return StartLine::absent;
-    return decodeRequestLine(frag, first, second, rest);
+    if (!takeUntil(&rest, ' ', &first)) return StartLine::absent;
+    if (isToken(first)) { // a version has a slash, and is none
+        Bytes second;
+        if (!takeUntil(&rest, ' ', &second)) return StartLine::absent;
+        return decodeRequestLine(frag, first, second, rest);
+    }
+    co::Ref<quillVersion> const version(tryDecodeVersion(first));
+    return version ? decodeStatusLine(frag, version.get(), rest) : StartLine::absent;
 }
 
 // The last line of the Content-Length header counts. True with -1 where there is none.
 bool readContentLength(quillMessageFragment const *frag, int64_t *contentLength) {
-    quill::Lines lines(frag->headers, quill___CosContentLength->view());
+    quill::Lines lines(frag->headers, quill::contentLengthFieldName);
     co::Chars line;
     if (!lines.last(&line)) return true;
     int64_t value = 0;
-    int64_t end = 0;
-    if (!co::tryDecodeInt(line, 10, &value, &end) || end != co::length(line) || value < 0) return false;
+    if (!isInteger(line, &value) || value < 0) return false;
     *contentLength = value;
     return true;
+}
+
+// Start line and headers: all that is given, or up to the empty line. What follows that stays.
+quillMessageFragment *tryDecode(Bytes *rest, bool untilEmptyLine, int64_t *contentLength) {
+    size_t const end = co::findLineEnd(*rest);
+    Bytes const firstLine = rest->substr(0, end);
+    if (!co::countUtf8(firstLine).valid) return nullptr;
+    co::Ref<quillMessageFragment> frag(quillMessageFragmentCreate());
+    StartLine const startLine = decodeStartLine(frag.get(), firstLine);
+    if (startLine == StartLine::broken) return nullptr;
+    if (startLine == StartLine::decoded || firstLine.empty()) // the empty line that ends headers is not the first one
+        rest->remove_prefix(std::min(end + 2, rest->size()));
+    if (!frag->headers.tryDecode(rest, untilEmptyLine)) return nullptr;
+    if (contentLength && !readContentLength(frag.get(), contentLength)) return nullptr;
+    return frag.take();
 }
 
 } // namespace
 
 struct quillMessageFragment *quill::tryDecodeHeaders(Bytes bytes, int64_t *contentLength) {
     if (contentLength) *contentLength = -1;
-    co::Utf8Count const text = co::countUtf8(bytes);
-    if (!text.valid) return nullptr;
-    bool const ascii = text.chars == static_cast<int64_t>(bytes.size());
-    co::Ref<quillMessageFragment> frag(quillMessageFragmentCreate());
-
-    size_t const firstLine = bytes.find("\r\n");
-    switch (decodeStartLine(frag.get(), bytes.substr(0, firstLine))) {
-    case StartLine::broken:
-        return nullptr;
-    case StartLine::decoded:
-        bytes.remove_prefix(firstLine == Bytes::npos ? bytes.size() : firstLine + 2);
-        break;
-    case StartLine::absent:
-        break;
-    }
-    if (!frag->headers.tryDecode(bytes, ascii)) return nullptr;
-    if (contentLength && !readContentLength(frag.get(), contentLength)) return nullptr;
-    return frag.take();
+    return tryDecode(&bytes, false, contentLength);
 }
 
 struct quillMessageFragment *quillMessageFragmentTryDecodeHeaders(struct coBuffer const *buf, int64_t *contentLength) {
@@ -151,13 +160,9 @@ struct quillMessageFragment *quillMessageFragmentTryDecodeHeaders(struct coBuffe
 
 struct quillMessageFragment *quillMessageFragmentTryDecode(struct coBuffer const *buf) {
     CO_ASSERT_GIVEN(buf);
-    Bytes const bytes = buf->view();
-    size_t const end = bytes.find("\r\n\r\n");
-    Bytes const headers = end == Bytes::npos ? bytes : bytes.substr(0, end + 2); // with the last line's CR LF
-    Bytes const body = end == Bytes::npos ? Bytes() : bytes.substr(end + 4);
-
+    Bytes body = buf->view(); // behind the headers
     int64_t contentLength = -1;
-    co::Ref<quillMessageFragment> frag(quill::tryDecodeHeaders(headers, &contentLength));
+    co::Ref<quillMessageFragment> frag(tryDecode(&body, true, &contentLength));
     if (!frag) return nullptr;
     auto const available = static_cast<int64_t>(body.size());
     if (contentLength > available) return nullptr;
@@ -177,12 +182,12 @@ struct coString *quill___MessageFragmentDecodeTrim(struct coString const *cos) {
 bool quill___MessageFragmentDecodeHeader(struct quillMessageFragment **frag, struct coString const *cos) {
     CO_ASSERT_REFERENCE(frag);
     CO_ASSERT_GIVEN(cos);
-    co::Chars value = cos->view();
-    co::Chars name;
-    if (!takeUntil(&value, co::Chars(U":"), &name)) return false;
-    co::Ref<coString> const normal(quill::tryNormalizeFieldName(trimmed(name)));
+    co::Chars const text = cos->view();
+    size_t const colon = text.find(U':');
+    if (colon == co::Chars::npos) return false;
+    co::Ref<coString> const normal(quill::tryNormalizeFieldName(trimmed(text.substr(0, colon))));
     if (!normal) return false;
-    co::Ref<coString> const line(co::makeString(trimmed(value)));
+    co::Ref<coString> const line(co::makeString(trimmed(text.substr(colon + 1))));
     struct quillMessageHeader *header = (*frag)->headers.header(normal->view());
     if (!header) header = quill::makeMessageHeader(normal.get());
     quillMessageHeaderAppendLine(&header, line.get());

@@ -182,6 +182,7 @@ TEST(Utf8, FindsOneWrongByteAnywhere) {
             expected[at] = U'é';
             expectAsOracle(text);
             ASSERT_EQ(widenAny(text), expected);
+            ASSERT_EQ(narrow(expected), text);
             if (HasFatalFailure()) return;
         }
 }

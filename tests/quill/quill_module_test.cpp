@@ -3,6 +3,7 @@
 #include <cstring>
 #include <quill/quill_field_name.hpp>
 #include <quill/quill_internal.h>
+#include <quill/quill_method.hpp>
 #include <quill/quill_module.h>
 #include <quill/quill_version.h>
 #include <support/text.hpp>
@@ -29,6 +30,10 @@ StaticString const strings[] = {
     {&quill___SessUuidNil, "00000000000000000000000000000000"},
 };
 
+// All that are registered (RFC 3261, 27.4).
+char const *const methods[] = {"ACK",     "BYE",   "CANCEL",  "INFO",  "INVITE",   "MESSAGE",   "NOTIFY",
+                               "OPTIONS", "PRACK", "PUBLISH", "REFER", "REGISTER", "SUBSCRIBE", "UPDATE"};
+
 template <class T> bool isAllOnes(T const *pointer) { return reinterpret_cast<uintptr_t>(pointer) == ~uintptr_t{0}; }
 
 void expectStarted() {
@@ -40,18 +45,26 @@ void expectStarted() {
         std::string const name = utf8(quill::fieldNameAt(i));
         EXPECT_EQ(quill::knownFieldName(std::string_view(name)), i);
     }
+    for (char const *method : methods) {
+        EXPECT_EQ(utf8(quill::knownMethod(method)), method);
+        EXPECT_TRUE(co::isImmortal(quill::knownMethod(method)));
+    }
+    for (char const *other : {"", "I", "invite", "INVITED", "INVIT", "BYE ", "X"})
+        EXPECT_EQ(quill::knownMethod(other), nullptr) << other;
 }
 
 void expectStopped() {
     for (auto [slot, text] : strings) EXPECT_TRUE(isAllOnes(*slot)) << text;
     EXPECT_TRUE(isAllOnes(quill___VersionSip20));
     for (int i = 0; i < quill::knownFieldNameCount; i++) EXPECT_TRUE(isAllOnes(quill::fieldNameAt(i)));
+    for (char const *method : methods) EXPECT_TRUE(isAllOnes(quill::knownMethod(method))) << method;
 }
 
 // Runs first: nothing has been started in this process.
 TEST(QuillModule, BeforeTheFirstStartStaticsAreNull) {
     for (auto [slot, text] : strings) EXPECT_EQ(*slot, nullptr) << text;
     EXPECT_EQ(quillVersionCreateSip20(), nullptr);
+    for (char const *method : methods) EXPECT_EQ(quill::knownMethod(method), nullptr);
 }
 
 TEST(QuillModule, StaticsLiveFromStartToStop) {

@@ -1,0 +1,273 @@
+// Widening, narrowing and searching of text, several characters at a time: with SSE2 on x86-64 and NEON on aarch64, which
+// every processor of these kinds has, and one by one elsewhere. Nothing is read or written beyond the texts given.
+//
+// co::simd is what callers use. co::scalar says the same in plain code: it serves texts shorter than a block, and it is
+// all there is on other processors.
+#pragma once
+
+#include <bit>
+#include <co/co_types.h>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#if defined(__SSE2__)
+#define CO_SIMD_SSE2 1
+#include <emmintrin.h>
+#elif defined(__aarch64__) && defined(__ARM_NEON) && !defined(__AARCH64EB__)
+#define CO_SIMD_NEON 1
+#include <arm_neon.h>
+#endif
+
+namespace co::scalar {
+
+// The place of the first `wanted`, or the text's size.
+inline size_t find(std::string_view text, char wanted) {
+    size_t at = 0;
+    while (at < text.size() && text[at] != wanted) at++;
+    return at;
+}
+
+// All places of `wanted`, one after the other; the text's size when there are no more.
+class Places {
+public:
+    Places(std::string_view whole, char wantedByte) : text(whole), wanted(wantedByte) {}
+
+    size_t next() {
+        while (at < text.size() && text[at] != wanted) at++;
+        return at < text.size() ? at++ : at;
+    }
+
+private:
+    std::string_view text;
+    char wanted;
+    size_t at = 0;
+};
+
+// How many leading characters are US-ASCII.
+inline size_t asciiRun(std::string_view text) {
+    constexpr uint64_t highBits = 0x8080808080808080;
+    size_t count = 0;
+    for (uint64_t word = 0; count + sizeof word <= text.size(); count += sizeof word) {
+        std::memcpy(&word, text.data() + count, sizeof word);
+        if (word & highBits) break;
+    }
+    while (count < text.size() && static_cast<uint8_t>(text[count]) < 0x80) count++;
+    return count;
+}
+
+inline size_t asciiRun(std::u32string_view text) {
+    size_t count = 0;
+    while (count < text.size() && text[count] < 0x80) count++;
+    return count;
+}
+
+// US-ASCII to code points.
+inline void widen(coChar *chars, std::string_view ascii) {
+    for (char const byte : ascii) *chars++ = static_cast<uint8_t>(byte);
+}
+
+// The leading US-ASCII characters to bytes; returns their number. Room is needed for no more than these.
+inline size_t narrow(uint8_t *bytes, std::u32string_view text) {
+    size_t count = 0;
+    for (; count < text.size() && text[count] < 0x80; count++) bytes[count] = static_cast<uint8_t>(text[count]);
+    return count;
+}
+
+} // namespace co::scalar
+
+#if defined(CO_SIMD_SSE2) || defined(CO_SIMD_NEON)
+
+namespace co::simd {
+
+// What the processors have in common: a block of bytes, and a mask that says which of its bytes have the highest bit set.
+
+inline constexpr size_t blockSize = 16;
+inline constexpr size_t wideSize = 8; // characters that are widened or narrowed at once
+
+#if defined(CO_SIMD_SSE2)
+
+using Block = __m128i;
+using Mask = unsigned;
+
+inline Block load(char const *at) { return _mm_loadu_si128(reinterpret_cast<__m128i const *>(at)); }
+inline Block load(coChar const *at) { return _mm_loadu_si128(reinterpret_cast<__m128i const *>(at)); }
+inline Block equal(Block block, char wanted) { return _mm_cmpeq_epi8(block, _mm_set1_epi8(wanted)); }
+inline Block either(Block a, Block b) { return _mm_or_si128(a, b); }
+inline Mask highBits(Block block) { return static_cast<Mask>(_mm_movemask_epi8(block)); }
+inline size_t first(Mask mask) { return static_cast<size_t>(std::countr_zero(mask)); }
+
+// The places of a byte are looked for in longer steps.
+inline constexpr size_t stepSize = 4 * blockSize;
+using StepMask = uint64_t;
+
+[[gnu::always_inline]] inline StepMask equalInStep(char const *at, char wanted) {
+    auto const part = [=](size_t i) { return StepMask{highBits(equal(load(at + i), wanted))} << i; };
+    return (part(0) | part(16)) | (part(32) | part(48));
+}
+inline size_t first(StepMask mask) { return static_cast<size_t>(std::countr_zero(mask)); }
+inline StepMask withoutFirst(StepMask mask) { return mask & (mask - 1); }
+
+inline void widenOnce(coChar *chars, char const *ascii) {
+    Block const zero = _mm_setzero_si128();
+    Block const pairs = _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<__m128i const *>(ascii)), zero);
+    _mm_storeu_si128(reinterpret_cast<__m128i *>(chars), _mm_unpacklo_epi16(pairs, zero));
+    _mm_storeu_si128(reinterpret_cast<__m128i *>(chars + 4), _mm_unpackhi_epi16(pairs, zero));
+}
+
+inline bool isAscii(Block fourChars) {
+    Block const beyond = _mm_and_si128(fourChars, _mm_set1_epi32(~0x7F));
+    return highBits(_mm_cmpeq_epi32(beyond, _mm_setzero_si128())) == 0xFFFF;
+}
+
+inline void narrowOnce(uint8_t *bytes, Block low, Block high) {
+    Block const pairs = _mm_packs_epi32(low, high);
+    _mm_storel_epi64(reinterpret_cast<__m128i *>(bytes), _mm_packus_epi16(pairs, pairs));
+}
+
+#else
+
+using Block = uint8x16_t;
+using Mask = uint64_t; // four bits for each byte
+
+inline Block load(char const *at) { return vld1q_u8(reinterpret_cast<uint8_t const *>(at)); }
+inline Block load(coChar const *at) { return vld1q_u8(reinterpret_cast<uint8_t const *>(at)); }
+inline Block equal(Block block, char wanted) { return vceqq_u8(block, vdupq_n_u8(static_cast<uint8_t>(wanted))); }
+inline Block either(Block a, Block b) { return vorrq_u8(a, b); }
+inline Mask highBits(Block block) {
+    Block const spread = vcltzq_s8(vreinterpretq_s8_u8(block));
+    return vget_lane_u64(vreinterpret_u64_u8(vshrn_n_u16(vreinterpretq_u16_u8(spread), 4)), 0);
+}
+inline size_t first(Mask mask) { return static_cast<size_t>(std::countr_zero(mask)) / 4; }
+
+inline constexpr size_t stepSize = blockSize;
+using StepMask = Mask;
+
+inline StepMask equalInStep(char const *at, char wanted) { return highBits(equal(load(at), wanted)); }
+inline StepMask withoutFirst(StepMask mask) { return mask & ~(StepMask{0xF} << std::countr_zero(mask)); }
+
+inline void widenOnce(coChar *chars, char const *ascii) {
+    uint16x8_t const pairs = vmovl_u8(vld1_u8(reinterpret_cast<uint8_t const *>(ascii)));
+    vst1q_u8(reinterpret_cast<uint8_t *>(chars), vreinterpretq_u8_u32(vmovl_u16(vget_low_u16(pairs))));
+    vst1q_u8(reinterpret_cast<uint8_t *>(chars + 4), vreinterpretq_u8_u32(vmovl_u16(vget_high_u16(pairs))));
+}
+
+inline bool isAscii(Block fourChars) { return vmaxvq_u32(vreinterpretq_u32_u8(fourChars)) < 0x80; }
+
+inline void narrowOnce(uint8_t *bytes, Block low, Block high) {
+    uint16x4_t const lowPairs = vmovn_u32(vreinterpretq_u32_u8(low));
+    uint16x4_t const highPairs = vmovn_u32(vreinterpretq_u32_u8(high));
+    vst1_u8(bytes, vmovn_u16(vcombine_u16(lowPairs, highPairs)));
+}
+
+#endif
+
+// The first of `size` places that a mask says yes for. `maskAt` gives the mask of a block of places, of which there is one
+// at least. The last block overlaps the one before it, which has nothing.
+template <class MaskAt> [[gnu::always_inline]] inline size_t firstPlace(size_t size, MaskAt maskAt) {
+    size_t at = 0;
+    for (; at + blockSize <= size; at += blockSize)
+        if (Mask const mask = maskAt(at)) return at + first(mask);
+    if (at == size) return size;
+    at = size - blockSize;
+    Mask const mask = maskAt(at);
+    return mask ? at + first(mask) : size;
+}
+
+[[gnu::always_inline]] inline size_t find(std::string_view text, char wanted) {
+    if (text.size() < blockSize) return scalar::find(text, wanted);
+    return firstPlace(text.size(), [&](size_t at) { return highBits(equal(load(text.data() + at), wanted)); });
+}
+
+class Places {
+public:
+    Places(std::string_view whole, char wantedByte) : text(whole), wanted(wantedByte) {}
+
+    [[gnu::always_inline]] size_t next() {
+        while (mask == 0) {
+            if (searched >= text.size()) return text.size();
+            mask = searchStep();
+        }
+        size_t const place = searched - stepSize + first(mask);
+        mask = withoutFirst(mask);
+        return place;
+    }
+
+private:
+    [[gnu::always_inline]] StepMask searchStep() {
+        char const *const step = text.data() + searched;
+        size_t const left = text.size() - searched;
+        searched += stepSize;
+        if (left >= stepSize) return equalInStep(step, wanted);
+        char last[stepSize];
+        std::memset(last, ~wanted, sizeof last);
+        std::memcpy(last, step, left);
+        return equalInStep(last, wanted);
+    }
+
+    std::string_view const text;
+    char const wanted;
+    size_t searched = 0;
+    StepMask mask = 0; // of the places in the step that was searched last
+};
+
+inline size_t asciiRun(std::string_view text) {
+    if (text.size() < blockSize) return scalar::asciiRun(text);
+    constexpr size_t step = 4 * blockSize;
+    size_t at = 0;
+    for (char const *bytes = text.data(); at + step <= text.size(); at += step, bytes += step) {
+        Block const half = either(load(bytes), load(bytes + blockSize));
+        Block const otherHalf = either(load(bytes + 2 * blockSize), load(bytes + 3 * blockSize));
+        if (highBits(either(half, otherHalf))) break;
+    }
+    if (text.size() - at < blockSize) at = text.size() - blockSize;
+    return at + firstPlace(text.size() - at, [&](size_t i) { return highBits(load(text.data() + at + i)); });
+}
+
+inline size_t asciiRun(std::u32string_view text) {
+    size_t at = 0;
+    while (at + wideSize <= text.size() && isAscii(either(load(text.data() + at), load(text.data() + at + 4))))
+        at += wideSize;
+    return at + scalar::asciiRun(text.substr(at));
+}
+
+inline void widen(coChar *chars, std::string_view ascii) {
+    if (ascii.size() < wideSize) return scalar::widen(chars, ascii);
+    size_t const last = ascii.size() - wideSize;
+    for (size_t at = 0; at < last; at += wideSize) widenOnce(chars + at, ascii.data() + at);
+    widenOnce(chars + last, ascii.data() + last);
+}
+
+inline size_t narrow(uint8_t *bytes, std::u32string_view text) {
+    size_t at = 0;
+    for (; at + wideSize <= text.size(); at += wideSize) {
+        Block const low = load(text.data() + at);
+        Block const high = load(text.data() + at + 4);
+        if (!isAscii(either(low, high))) break;
+        narrowOnce(bytes + at, low, high);
+    }
+    return at + scalar::narrow(bytes + at, text.substr(at));
+}
+
+} // namespace co::simd
+
+#else
+
+namespace co {
+namespace simd = scalar;
+}
+
+#endif
+
+namespace co {
+
+// The place of the first CR LF, or the text's size.
+inline size_t findLineEnd(std::string_view text) {
+    simd::Places returns(text, '\r');
+    for (size_t at = returns.next(); at + 1 < text.size(); at = returns.next())
+        if (text[at + 1] == '\n') return at;
+    return text.size();
+}
+
+} // namespace co

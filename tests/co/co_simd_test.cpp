@@ -1,0 +1,144 @@
+// Vector code beside its plain twin: all lengths around a few blocks, all alignments, each interesting place. Texts end
+// where their memory does, so that a sanitizer sees what reads or writes beyond them.
+
+#include <co/co_simd.hpp>
+#include <memory>
+#include <random>
+#include <support/text.hpp>
+
+namespace {
+
+constexpr size_t longest = 200;
+constexpr size_t alignments = 16;
+
+// A text in memory of its own that begins some elements behind an aligned address, and ends with it.
+template <class Char> class Placed {
+public:
+    Placed(size_t alignment, std::basic_string_view<Char> text)
+        : memory(new Char[alignment + text.size()]), start(memory.get() + alignment), size(text.size()) {
+        std::copy(text.begin(), text.end(), start);
+    }
+    std::basic_string_view<Char> view() const { return {start, size}; }
+    Char &operator[](size_t at) { return start[at]; }
+
+private:
+    std::unique_ptr<Char[]> memory;
+    Char *start;
+    size_t size;
+};
+
+std::vector<size_t> places(auto finder) {
+    std::vector<size_t> all;
+    do all.push_back(finder.next());
+    while (all.size() < longest + 2 && (all.size() < 2 || all.back() != all[all.size() - 2]));
+    return all;
+}
+
+void expectSameOfBytes(std::string_view text) {
+    for (char wanted : {'\r', ':', '\0', '\x7F', '\x80', '\xFF'}) {
+        ASSERT_EQ(co::simd::find(text, wanted), co::scalar::find(text, wanted));
+        ASSERT_EQ(places(co::simd::Places(text, wanted)), places(co::scalar::Places(text, wanted)));
+    }
+    ASSERT_EQ(co::simd::asciiRun(text), co::scalar::asciiRun(text));
+    size_t const lineEnd = text.find("\r\n");
+    ASSERT_EQ(co::findLineEnd(text), std::min(lineEnd, text.size()));
+}
+
+void expectSameOfChars(std::u32string_view text) {
+    ASSERT_EQ(co::simd::asciiRun(text), co::scalar::asciiRun(text));
+    size_t const count = co::scalar::asciiRun(text);
+    Placed<uint8_t> expected(0, std::basic_string<uint8_t>(count, 0xEE));
+    Placed<uint8_t> narrowed(0, std::basic_string<uint8_t>(count, 0xEE));
+    ASSERT_EQ(co::scalar::narrow(&expected[0], text), count);
+    ASSERT_EQ(co::simd::narrow(&narrowed[0], text), count);
+    ASSERT_EQ(narrowed.view(), expected.view());
+}
+
+TEST(Simd, FindsNothingWhereNothingIs) {
+    for (size_t size = 0; size <= longest; size++)
+        for (size_t alignment = 0; alignment < alignments; alignment++) {
+            Placed<char> const text(alignment, std::string(size, 'a'));
+            ASSERT_EQ(co::simd::find(text.view(), ':'), size);
+            ASSERT_EQ(co::simd::Places(text.view(), ':').next(), size);
+            ASSERT_EQ(co::simd::asciiRun(text.view()), size);
+            ASSERT_EQ(co::findLineEnd(text.view()), size);
+        }
+}
+
+TEST(Simd, FindsOneByteAtEachPlaceOfEachLength) {
+    for (size_t size = 1; size <= longest; size++)
+        for (size_t at = 0; at < size; at++) {
+            Placed<char> text(at % alignments, std::string(size, 'a'));
+            text[at] = ':';
+            ASSERT_EQ(co::simd::find(text.view(), ':'), at) << size;
+            co::simd::Places colons(text.view(), ':');
+            ASSERT_EQ(colons.next(), at) << size;
+            ASSERT_EQ(colons.next(), size);
+            ASSERT_EQ(colons.next(), size) << "still";
+            text[at] = '\x80';
+            ASSERT_EQ(co::simd::asciiRun(text.view()), at) << size;
+        }
+}
+
+TEST(Simd, FindsLineEndsAtEachPlace) {
+    for (size_t size = 2; size <= longest; size++)
+        for (size_t at = 0; at + 2 <= size; at++) {
+            std::string text(size, 'a');
+            text.replace(at, 2, "\r\n");
+            ASSERT_EQ(co::findLineEnd(Placed<char>(at % alignments, text).view()), at) << size;
+            text[at] = '\n'; // LF LF
+            ASSERT_EQ(co::findLineEnd(Placed<char>(0, text).view()), size);
+            text[at + 1] = '\r'; // LF CR, a CR at the end among them
+            ASSERT_EQ(co::findLineEnd(Placed<char>(0, text).view()), size);
+        }
+}
+
+// Bytes that searches look for stand close together: a later one must not hide an earlier one.
+TEST(Simd, AgreesWithItsTwinOnRandomBytes) {
+    constexpr std::string_view bytes("a:\r\n\0\x7F\x80\xFF", 8);
+    std::mt19937 random(1);
+    for (int round = 0; round < 20000; round++) {
+        std::string text(random() % (longest + 1), 'a');
+        for (size_t i = random() % 8; i-- > 0 && !text.empty();)
+            text[random() % text.size()] = bytes[random() % bytes.size()];
+        expectSameOfBytes(Placed<char>(random() % alignments, text).view());
+        if (HasFatalFailure()) FAIL() << testing::PrintToString(text);
+    }
+    for (size_t size = 0; size <= longest; size++)
+        for (char byte : bytes) expectSameOfBytes(Placed<char>(size % alignments, std::string(size, byte)).view());
+}
+
+TEST(Simd, WidensEveryAsciiTextOfEachLength) {
+    for (size_t size = 0; size <= longest; size++)
+        for (size_t alignment = 0; alignment < alignments; alignment++) {
+            std::string ascii(size, '\0');
+            for (size_t i = 0; i < size; i++) ascii[i] = static_cast<char>((i * 7 + size + alignment) % 128);
+            Placed<char> const text(alignment, ascii);
+            Placed<char32_t> expected(0, std::u32string(size, U'?'));
+            Placed<char32_t> widened(alignment % 4, std::u32string(size, U'?'));
+            co::scalar::widen(&expected[0], text.view());
+            co::simd::widen(&widened[0], text.view());
+            ASSERT_EQ(widened.view(), expected.view()) << size;
+            ASSERT_EQ(expected.view(), std::u32string(ascii.begin(), ascii.end()));
+        }
+}
+
+TEST(Simd, NarrowsUpToTheFirstCharacterBeyondAsciiAtEachPlace) {
+    for (size_t size = 0; size <= longest; size++) {
+        std::u32string text(size, U'a');
+        for (size_t i = 0; i < size; i++) text[i] = static_cast<char32_t>((i * 11 + size) % 128);
+        expectSameOfChars(Placed<char32_t>(size % 4, text).view());
+        for (size_t at = 0; at < size; at++) {
+            for (char32_t beyond :
+                 {U'\x80', U'\xFF', U'\x100', U'\x8000', U'\x10000', char32_t{0x80000000}, char32_t{0xFFFFFFFF}}) {
+                Placed<char32_t> placed(at % 4, text);
+                placed[at] = beyond;
+                ASSERT_EQ(co::simd::asciiRun(placed.view()), at);
+                expectSameOfChars(placed.view());
+            }
+            if (HasFatalFailure()) return;
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,323 @@
+// Header lines as the decoder finds and names them, beside a plain reading of the same text.
+
+#include "objects.hpp"
+
+#include <algorithm>
+#include <memory>
+#include <quill/quill_field_name.hpp>
+#include <quill/quill_typed_headers.hpp>
+#include <random>
+#include <set>
+
+using namespace test;
+
+namespace {
+
+using Text = std::string_view;
+
+// The plain reading: as the conventions say it, one step after the other.
+
+std::vector<Text> splitLines(Text text) {
+    std::vector<Text> lines;
+    for (size_t end; (end = text.find("\r\n")) != Text::npos; text.remove_prefix(end + 2))
+        lines.push_back(text.substr(0, end));
+    lines.push_back(text);
+    return lines;
+}
+
+Text trimmed(Text text) {
+    size_t const first = text.find_first_not_of(" \t");
+    return first == Text::npos ? Text() : text.substr(first, text.find_last_not_of(" \t") + 1 - first);
+}
+
+// The pieces of a folded text that have something in them.
+std::vector<Text> pieces(Text folded) {
+    std::vector<Text> found;
+    for (Text line : splitLines(folded))
+        if (Text const piece = trimmed(line); !piece.empty()) found.push_back(piece);
+    return found;
+}
+
+std::string normalName(Text name) {
+    if (name.size() == 1 && (name[0] == 'v' || name[0] == 'V')) return "Via";
+    std::string normal(name);
+    for (size_t i = 0; i < normal.size(); i++) {
+        auto const letter = static_cast<unsigned char>(name[i]);
+        normal[i] = static_cast<char>(i == 0 || name[i - 1] == '-' ? std::toupper(letter) : std::tolower(letter));
+    }
+    return normal;
+}
+
+bool isToken(Text text) {
+    return !text.empty() && std::all_of(text.begin(), text.end(), [](char ch) {
+        return std::isalnum(static_cast<unsigned char>(ch)) || (ch && std::strchr("-.!%*_+`'~", ch));
+    });
+}
+
+struct Plain {
+    std::string startLine;
+    std::vector<std::pair<std::string, std::vector<std::string>>> headers;
+    std::string body;
+
+    bool add(Text whole) {
+        size_t const colon = whole.find(':');
+        if (colon == Text::npos) return false;
+        std::vector<Text> const name = pieces(whole.substr(0, colon));
+        if (name.size() != 1 || !isToken(name[0])) return false;
+        std::string value;
+        for (Text piece : pieces(whole.substr(colon + 1))) value += (value.empty() ? "" : " ") + std::string(piece);
+        std::string const normal = normalName(name[0]);
+        auto const known =
+            std::find_if(headers.begin(), headers.end(), [&](auto const &h) { return h.first == normal; });
+        if (known == headers.end())
+            headers.push_back({normal, {value}});
+        else
+            known->second.push_back(value);
+        return true;
+    }
+
+    // What follows a start line, which does not count as the line before an empty one where there is none.
+    bool read(Text whole, Text start) {
+        size_t const end = whole.find("\r\n\r\n");
+        Text const head = whole.substr(0, end);
+        if (head.find('\xFF') != Text::npos) return false;
+        body = end == Text::npos ? Text() : whole.substr(end + 4);
+        startLine = start;
+        std::string header;
+        for (Text line : splitLines(head.substr(std::min(start.empty() ? 0 : start.size() + 2, head.size())))) {
+            bool const goesOn = !trimmed(header).empty() && !line.empty() && (line[0] == ' ' || line[0] == '\t');
+            if (!goesOn && !trimmed(header).empty() && !add(header)) return false;
+            header = goesOn ? header + "\r\n" + std::string(line) : line;
+        }
+        return trimmed(header).empty() || add(header);
+    }
+
+    std::string described() const {
+        std::string text = startLine.empty() ? "-" : startLine;
+        for (auto const &[name, lines] : headers) {
+            text += "\n" + name + "=";
+            for (std::string const &line : lines) text += "[" + line + "]";
+        }
+        return body.empty() ? text : text + "\nbody=[" + body + "]";
+    }
+
+    std::string encoded() const {
+        std::string text = startLine.empty() ? "" : startLine + "\r\n";
+        for (auto const &[name, lines] : headers)
+            for (std::string const &line : lines) text += name + ": " + line + "\r\n";
+        return text + "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body;
+    }
+};
+
+void expectAsPlain(Text whole, Text startLine) {
+    SCOPED_TRACE(testing::PrintToString(std::string(whole)));
+    Plain plain;
+    bool const ok = plain.read(whole, startLine);
+    auto const frag = own(quillMessageFragmentTryDecode(buffer(whole).get()));
+    ASSERT_EQ(static_cast<bool>(frag), ok);
+    if (!ok) return;
+    ASSERT_EQ(describe(frag.get()), plain.described());
+    ASSERT_EQ(encoded(frag.get()), plain.encoded());
+}
+
+constexpr Text bye = "BYE sip:a@b SIP/2.0";
+
+// A header of any text behind a filler that moves it over the borders of what is searched at once.
+void expectAsPlainAtAllOffsets(Text text) {
+    for (size_t filler = 0; filler < 70; filler++) {
+        expectAsPlain(std::string(bye) + "\r\nZ:" + std::string(filler, 'z') + "\r\n" + std::string(text), bye);
+        if (testing::Test::HasFatalFailure()) return;
+    }
+}
+
+TEST(HeaderLines, EndAtAnyOffset) {
+    for (Text text : {
+             "a0: b\r\n",
+             "a0: b\r\n\r\n",
+             "a0: b\r\n\r\nc0: d\r\n\r\n",
+             "a0: b\r\nc0: d\r\n",
+             "a0: b\rc\r\n",
+             "a0: b\nc\r\n",
+             "a0: b\r\r\nc0: d\n\r\n",
+             "a0: b\r",
+             "a0: b\n",
+             "a0: b\r\n\r",
+             "a0: b\r\n\n",
+             "a0: b\n\r\nc0: d",
+             "a0: b\r\n c\r\n\td\r\n",
+             "a0: b\r\n \r\n",
+             "a0: b\r\n \r\n c\r\n",
+             "a0:\r\n b\r\n",
+             "a0:\r\n \t \r\n",
+             "a0\r\n : b\r\n",
+             "a0\r\n :b\r\n c\r\n",
+             "a0\r\n b: c\r\n",
+             "a0\r\n b\r\n",
+             "a0:b\r\n  \r\n\r\n  c",
+             "a0 : b\r\n",
+             "a0\t:\tb\t\r\n",
+             " a0: b\r\n",
+             "a0: b \r\n",
+             "a0:  b\r\n",
+             "a0: \r\n",
+             "a0:\r\n",
+             "a0:",
+             "a0",
+             ": b\r\n",
+             " : b\r\n",
+             ":",
+             "\xC3\xA4: b\r\n",
+             "a0: \xC3\xA4\xE2\x82\xAC\r\n",
+             "a0: \xFF\r\n",
+             "a0: b\r\n\r\n\xFF",
+             "a0:: b\r\n",
+             "a0: b: c\r\n",
+         })
+        expectAsPlainAtAllOffsets(text);
+}
+
+TEST(HeaderLines, ColonAtEachPlace) {
+    for (size_t size = 1; size <= 80; size++)
+        for (size_t colon = 0; colon < size; colon++) {
+            std::string line(size, 'q');
+            line[colon] = ':';
+            expectAsPlain(std::string(bye) + "\r\n" + line, bye); // the text ends with the line
+            expectAsPlain(std::string(bye) + "\r\n" + line + "\r\n\r\n", bye);
+            if (HasFatalFailure()) return;
+        }
+}
+
+TEST(HeaderLines, NamesOfAllLengthsInOddCase) {
+    for (size_t size = 1; size <= 40; size++)
+        for (unsigned pattern = 0; pattern < 8; pattern++) {
+            std::string name;
+            for (size_t i = 0; i < size; i++)
+                name += (i * 5 + pattern) % 7 == 0 && i > 0 ? '-' : (i + pattern) % 3 ? 'q' : 'Q';
+            for (Text between : {":", ": ", " : ", ":\t"})
+                expectAsPlain(std::string(bye) + "\r\n" + name + std::string(between) + "b\r\n" + name + ":c\r\n\r\n",
+                              bye);
+            if (HasFatalFailure()) return;
+        }
+}
+
+// The empty line that ends the headers follows a line, be it the start line or an empty first one.
+TEST(HeaderLines, EndAtAnEmptyLine) {
+    for (Text text : {"\r\n", "\r\n\r\n", "\r\n\r\nbody", "\r\na0: b\r\n\r\nbody", "\r\n\r\n\r\nbody", "\r\r\n\r\nbody",
+                      " \r\n\r\nbody", "a0:b\r\n\r\nbody", "a0:b\r\n\r\n\r\n\r\n", "a0:b\r\n\r\nc0:d\r\n\r\n", ""})
+        expectAsPlain(text, "");
+    for (Text text :
+         {"", "\r\n", "\r\n\r\n", "\r\n\r\nbody", "\r\na0: b\r\n\r\nbody", "\r\n\r\n\r\n", "\r\n \r\n\r\n body"})
+        expectAsPlain(std::string(bye) + std::string(text), bye);
+}
+
+TEST(HeaderLines, AgreeWithThePlainReadingOfRandomTexts) {
+    constexpr Text parts[] = {"Via",
+                              "v",
+                              "V",
+                              "vIA",
+                              "Call-ID",
+                              "Call-Id",
+                              "x-Foo",
+                              "X-foo",
+                              "Accept-Resource-Priority",
+                              "0",
+                              "yy",
+                              ":",
+                              ":",
+                              ": ",
+                              ": ",
+                              " ",
+                              "\t",
+                              "\r\n",
+                              "\r\n",
+                              "\r\n",
+                              "\r\n ",
+                              "\r\n\t",
+                              "\r",
+                              "\n",
+                              "value",
+                              "a longer value; of=some length, 0123456789",
+                              "é€",
+                              "\xFF",
+                              "\r\n\r\n",
+                              "User-Agent: x\r\n"};
+    constexpr Text starts[] = {bye, "", ""};
+    std::mt19937 random(1);
+    int decodedTexts = 0;
+    for (int round = 0; round < 60000; round++) {
+        Text const start = starts[random() % std::size(starts)];
+        std::string text = start.empty() ? (random() % 2 ? "W:y\r\n" : "\r\n") : std::string(start) + "\r\n";
+        for (size_t i = random() % 12; i-- > 0;) {
+            // most headers have a name and a colon, or hardly any text would decode
+            if (random() % 2)
+                text += std::string(parts[random() % 10]) + ": " + std::string(parts[random() % 11]) + "\r\n";
+            else if (random() % 3 == 0)
+                text += parts[random() % std::size(parts)];
+        }
+        expectAsPlain(text, start);
+        if (HasFatalFailure()) return;
+        decodedTexts += Plain().read(text, start);
+    }
+    EXPECT_GT(decodedTexts, 10000);
+}
+
+// Names that are known, whatever stands behind them.
+
+// A name with some bytes behind it that end where their memory does.
+quill::FieldName match(Text name, size_t behind) {
+    std::unique_ptr<char[]> const text(new char[name.size() + behind]);
+    std::copy(name.begin(), name.end(), text.get());
+    std::fill_n(text.get() + name.size(), behind, ':');
+    return quill::matchFieldName({text.get(), name.size()}, text.get() + name.size() + behind);
+}
+
+void expectMatch(Text name, int known, bool normal) {
+    for (size_t behind = 0; behind < 30; behind++) {
+        quill::FieldName const field = match(name, behind);
+        ASSERT_EQ(field.known, known) << name << " with " << behind;
+        ASSERT_EQ(field.normal, normal) << name << " with " << behind;
+    }
+    ASSERT_EQ(quill::knownFieldName(name), known) << name;
+    ASSERT_EQ(quill::knownFieldName(std::u32string(name.begin(), name.end())), known) << name;
+}
+
+TEST(FieldNames, MatchInAnyCase) {
+    std::set<std::string> all;
+    for (int i = 0; i < quill::knownFieldNameCount; i++) all.insert(std::string(quill::fieldNameText(i)));
+    ASSERT_EQ(all.size(), static_cast<size_t>(quill::knownFieldNameCount));
+    for (int i = 0; i < quill::knownFieldNameCount; i++) {
+        std::string const name(quill::fieldNameText(i));
+        expectMatch(name, i, true);
+        for (size_t at = 0; at < name.size(); at++) {
+            std::string other = name;
+            other[at] = static_cast<char>(other[at] ^ 0x20); // the other case, or what is no hyphen
+            expectMatch(other, name[at] == '-' ? -1 : i, false);
+            other[at] = '\xE9';
+            EXPECT_EQ(match(other, 24).known, -1);
+            other[at] = '\0';
+            EXPECT_EQ(match(other, 24).known, -1);
+        }
+        expectMatch(name + "x", -1, false);
+        if (Text const shorter = Text(name).substr(0, name.size() - 1);
+            !all.count(std::string(shorter)) && shorter.size() > 1)
+            expectMatch(shorter, -1, false);
+        if (HasFatalFailure()) return;
+    }
+}
+
+TEST(FieldNames, CompactFormsAndStrangers) {
+    for (char ch = 0; ch < 127; ch++) {
+        bool const compact = std::strchr("auimelcofynbjdxsrktvAUIMELCOFYNBJDXSRKTV", ch) && ch;
+        quill::FieldName const field = match({&ch, 1}, 24);
+        EXPECT_EQ(field.known >= 0, compact) << ch;
+        EXPECT_FALSE(field.normal);
+    }
+    expectMatch("v", quill::knownFieldName("Via"), false);
+    expectMatch("L", quill::contentLengthFieldName, false);
+    expectMatch("", -1, false);
+    for (size_t size = 2; size <= 40; size++) expectMatch(std::string(size, 'v'), -1, false);
+    EXPECT_EQ(quill::knownFieldName(U"V\u0169a"), -1) << "i with 0x100 added";
+    EXPECT_EQ(quill::knownFieldName(U"\U00010056ia"), -1);
+}
+
+} // namespace
