@@ -1,0 +1,284 @@
+// Time and memory of every shape of input and use against its size, and whether they grow no faster than it:
+//
+//     scaling [--small] [--markdown] [--tsv <file>] [--only <part of a shape's name>]
+//
+// --small takes small sizes and generous limits, and none in absolute time: a test for a busy machine. The exit status
+// is 1 when a shape breaks its rule.
+
+#include "scaling.hpp"
+#include "heap.hpp"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <quill/quill.h>
+
+using scaling::Rule;
+using scaling::Shape;
+using scaling::Work;
+
+namespace {
+
+struct Limits {
+    std::vector<int64_t> sizes;
+    double growth;         // at twice the size, less than this
+    double constant;       // at any size against the smallest one
+    double even;           // for each of many against one alone
+    int64_t limitedSize;   // for the absolute limit; 0 for none
+    double longestElement; // ns
+    int repetitions;
+};
+
+Limits const full{{1000, 2000, 4000, 8000, 10000, 16000, 32000, 64000}, 2.5, 1.5, 1.25, 10000, 100, 5};
+Limits const small{{250, 500, 1000, 2000}, 4, 4, 4, 0, 0, 3};
+constexpr int attempts = 6;            // of a measurement that breaks a rule
+constexpr double shortestRun = 200e3;  // ns; shorter works are repeated
+constexpr int64_t fewBytes = 16 << 10; // what does not depend on the size, at most
+
+struct Point {
+    int64_t n;
+    double time; // ns
+    heap::Use memory;
+};
+
+struct Options {
+    bool markdown = false;
+    Limits const *limits = &full;
+    char const *tsv = nullptr;
+    char const *only = "";
+};
+
+// Processor time: what other processes do meanwhile does not count.
+double now() {
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+}
+
+// Of the fastest of several runs.
+double timeOf(Work const &work, int repetitions) {
+    double best = 1e18;
+    for (int i = 0; i < repetitions; i++) {
+        double const start = now();
+        double elapsed = 0;
+        int64_t runs = 0;
+        do {
+            work();
+            runs++;
+            elapsed = now() - start;
+        } while (elapsed < shortestRun);
+        best = std::min(best, elapsed / static_cast<double>(runs));
+    }
+    return best;
+}
+
+// One shape at all sizes. Times that break the rule are measured again: the machine may have been busy.
+class Measurement {
+public:
+    Measurement(Shape const &measured, Limits const &allowed) : shape(measured), limits(allowed) {
+        if (shape.rule == Rule::even) add(1);
+        for (int64_t n : limits.sizes) add(n);
+        for (int i = 1; i < attempts && !broken().empty(); i++)
+            for (Point &point : points) retry(point);
+    }
+
+    Shape const &shape;
+    Limits const &limits;
+    std::vector<Point> points;
+
+    // The greatest growth at twice the size, or against the first size.
+    double worstTime() const {
+        return worst([](Point const &point) { return point.time; });
+    }
+    double worstMemory() const {
+        return std::max(worst([](Point const &point) { return withFew(point.memory.asked); }),
+                        worst([](Point const &point) { return withFew(point.memory.highest); }));
+    }
+    Point const &at(int64_t n) const {
+        return *std::find_if(points.begin(), points.end(), [n](Point const &point) { return point.n == n; });
+    }
+
+    // What rule is broken; empty where none is.
+    std::string broken() const {
+        if (worstTime() >= limit()) return "time";
+        if (worstMemory() >= limit()) return "memory";
+        if (shape.limited && limits.limitedSize && elementAt(limits.limitedSize) > limits.longestElement) return "slow";
+        return "";
+    }
+    double elementAt(int64_t n) const { return at(n).time / static_cast<double>(n); }
+
+private:
+    double limit() const {
+        switch (shape.rule) {
+        case Rule::linear:
+            return limits.growth;
+        case Rule::constant:
+            return limits.constant;
+        case Rule::even:
+            return limits.even;
+        }
+        return 0;
+    }
+
+    void add(int64_t n) {
+        Work const work = shape.prepare(n);
+        work(); // first use fills what is kept
+        points.push_back({n, timeOf(work, limits.repetitions), heap::use(work)});
+    }
+    void retry(Point &point) const {
+        point.time = std::min(point.time, timeOf(shape.prepare(point.n), limits.repetitions));
+    }
+
+    static double withFew(int64_t bytes) { return static_cast<double>(std::max(bytes, fewBytes)); }
+
+    template <class Cost> double worst(Cost const &cost) const {
+        double most = 0;
+        for (Point const &point : points) most = std::max(most, growth(point, cost));
+        return most;
+    }
+    template <class Cost> double growth(Point const &point, Cost const &cost) const {
+        Point const &first = points.front();
+        if (shape.rule == Rule::constant) return cost(point) / cost(first);
+        if (shape.rule == Rule::even) return cost(point) / static_cast<double>(point.n) / cost(first);
+        for (Point const &twice : points)
+            if (twice.n == 2 * point.n) return cost(twice) / cost(point);
+        return 0;
+    }
+};
+
+std::string title(Shape const &shape) { return shape.name + ": " + shape.work; }
+
+// Tables
+
+std::string siBytes(int64_t bytes) {
+    char text[32];
+    if (bytes < 10000)
+        std::snprintf(text, sizeof text, "%ld", static_cast<long>(bytes));
+    else
+        std::snprintf(text, sizeof text, "%.0fk", static_cast<double>(bytes) / 1000);
+    return text;
+}
+
+std::string microseconds(double ns) {
+    char text[32];
+    std::snprintf(text, sizeof text, ns < 1e5 ? "%.1f" : "%.0f", ns / 1000);
+    return text;
+}
+
+// A table's row: its cells as text, numbers to the right.
+void printRow(bool markdown, std::string const &first, std::vector<std::string> const &cells) {
+    std::printf(markdown ? "| %s |" : "%-58s", first.c_str());
+    for (std::string const &cell : cells) std::printf(markdown ? " %s |" : "%9s", cell.c_str());
+    std::printf("\n");
+}
+
+void printHeading(Options const &options, std::string const &first, std::vector<std::string> const &last) {
+    std::vector<std::string> cells;
+    for (int64_t n : options.limits->sizes) cells.push_back(std::to_string(n));
+    cells.insert(cells.end(), last.begin(), last.end());
+    printRow(options.markdown, first, cells);
+    if (options.markdown) printRow(true, "---", std::vector<std::string>(cells.size(), "---:"));
+}
+
+std::string decimal(double value, char const *format) {
+    char text[32];
+    std::snprintf(text, sizeof text, format, value);
+    return text;
+}
+
+void printTimes(Options const &options, std::vector<Measurement> const &all) {
+    int64_t const n = options.limits->limitedSize ? options.limits->limitedSize : options.limits->sizes.back();
+    printHeading(options, "time in µs, n =", {"ns each", "growth", "rule"});
+    for (Measurement const &one : all) {
+        std::vector<std::string> cells;
+        for (int64_t size : options.limits->sizes) cells.push_back(microseconds(one.at(size).time));
+        cells.push_back(one.shape.rule == Rule::constant ? "-" : decimal(one.elementAt(n), "%.0f"));
+        cells.push_back(decimal(one.worstTime(), "%.2f"));
+        cells.push_back(one.broken().empty() ? "holds" : "BROKEN");
+        printRow(options.markdown, title(one.shape), cells);
+    }
+}
+
+void printMemory(Options const &options, std::vector<Measurement> const &all) {
+    printHeading(options, "most heap bytes at a time, n =", {"growth"});
+    for (Measurement const &one : all) {
+        std::vector<std::string> cells;
+        for (int64_t size : options.limits->sizes) cells.push_back(siBytes(one.at(size).memory.highest));
+        cells.push_back(decimal(one.worstMemory(), "%.2f"));
+        printRow(options.markdown, title(one.shape), cells);
+    }
+}
+
+bool writeTsv(char const *path, std::vector<Measurement> const &all) {
+    std::FILE *file = std::fopen(path, "w");
+    if (!file) return false;
+    std::fprintf(file, "shape\twork\trule\tn\tns\tasked\thighest\n");
+    char const *const rules[] = {"linear", "constant", "even"};
+    for (Measurement const &one : all)
+        for (Point const &point : one.points)
+            std::fprintf(file, "%s\t%s\t%s\t%ld\t%.0f\t%ld\t%ld\n", one.shape.name.c_str(), one.shape.work.c_str(),
+                         rules[static_cast<int>(one.shape.rule)], static_cast<long>(point.n), point.time,
+                         static_cast<long>(point.memory.asked), static_cast<long>(point.memory.highest));
+    return std::fclose(file) == 0;
+}
+
+bool readOptions(int argc, char **argv, Options *options) {
+    for (int i = 1; i < argc; i++) {
+        if (!std::strcmp(argv[i], "--small"))
+            options->limits = &small;
+        else if (!std::strcmp(argv[i], "--markdown"))
+            options->markdown = true;
+        else if (!std::strcmp(argv[i], "--tsv") && i + 1 < argc)
+            options->tsv = argv[++i];
+        else if (!std::strcmp(argv[i], "--only") && i + 1 < argc)
+            options->only = argv[++i];
+        else
+            return false;
+    }
+    return true;
+}
+
+int report(Options const &options, std::vector<Measurement> const &all) {
+    printTimes(options, all);
+    std::printf("\n");
+    printMemory(options, all);
+    std::fflush(stdout);
+    if (options.tsv && !writeTsv(options.tsv, all)) {
+        std::perror(options.tsv);
+        return 2;
+    }
+    int broken = 0;
+    for (Measurement const &one : all) {
+        if (one.broken().empty()) continue;
+        broken++;
+        std::fprintf(stderr, "%s breaks its rule: %s\n", title(one.shape).c_str(), one.broken().c_str());
+    }
+    std::fprintf(stderr, "%zu shapes, %d broken\n", all.size(), broken);
+    return broken > 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    Options options;
+    if (!readOptions(argc, argv, &options)) {
+        std::fprintf(stderr, "usage: scaling [--small] [--markdown] [--tsv <file>] [--only <part of a name>]\n");
+        return 2;
+    }
+    coModuleLoad(quillModule());
+    int status = 2;
+    {
+        std::vector<Measurement> all;
+        std::vector<Shape> const shapes = scaling::allShapes();
+        for (Shape const &shape : shapes)
+            if (title(shape).find(options.only) != std::string::npos) all.emplace_back(shape, *options.limits);
+        if (all.empty())
+            std::fprintf(stderr, "scaling: no shape has \"%s\" in its name\n", options.only);
+        else
+            status = report(options, all);
+    }
+    coModuleUnload(quillModule());
+    return status;
+}
