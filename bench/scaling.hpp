@@ -26,4 +26,7 @@ struct Shape {
 
 std::vector<Shape> allShapes();
 
+// Costs that break their rules, each in its way: all of them have to be noticed.
+std::vector<Shape> badShapes();
+
 } // namespace scaling

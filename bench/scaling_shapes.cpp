@@ -430,3 +430,17 @@ Shapes scaling::allShapes() {
     addStreams(all);
     return all;
 }
+
+Shapes scaling::badShapes() {
+    auto const spend = [](int64_t units) { // time, without a heap
+        for (int64_t i = 0; i < units; i++) __asm__ volatile("" ::: "memory");
+    };
+    auto const hold = [](int64_t bytes) { coMemFree(coMemAllocN(bytes, 1)); };
+    return {
+        {"quadratic", "time", Rule::linear, false, [=](int64_t n) { return [=] { spend(n * n); }; }},
+        {"quadratic", "memory", Rule::linear, false, [=](int64_t n) { return [=] { hold(n * n / 10); }; }},
+        {"linear", "at a position", Rule::constant, false, [=](int64_t n) { return [=] { spend(n * 1000); }; }},
+        {"quadratic", "messages", Rule::even, false, [=](int64_t n) { return [=] { spend(n * n); }; }},
+        {"linear", "slow", Rule::linear, true, [=](int64_t n) { return [=] { spend(n * 50000); }; }},
+    };
+}
