@@ -15,7 +15,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[1]
 
-WIDTH, LEFT, LABELS = 1040, 70, 400
+WIDTH, LEFT, LABELS = 1120, 70, 460
 HEIGHT, TOP, BOTTOM = 420, 50, 45
 LINE_GAP = 14  # between labels
 STYLE = """

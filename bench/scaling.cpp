@@ -35,7 +35,7 @@ struct Limits {
 
 Limits const full{{1000, 2000, 4000, 8000, 10000, 16000, 32000, 64000}, 2, 2.5, 1.5, 1.25, 10000, 100, 5};
 Limits const small{{250, 500, 1000, 2000}, 8, 20, 3, 3, 1000, 10000, 3};
-constexpr int attempts = 6;            // of a measurement that breaks a rule
+constexpr int attempts = 10;           // of a measurement that breaks a rule
 constexpr double shortestRun = 100e3;  // ns; shorter works are repeated
 constexpr int64_t fewBytes = 16 << 10; // what does not depend on the size, at most
 
@@ -107,7 +107,11 @@ public:
         if (shape.limited && limits.limitedSize && elementAt(limits.limitedSize) > limits.longestElement) return "slow";
         return "";
     }
-    double elementAt(int64_t n) const { return at(n).time / static_cast<double>(n); }
+    // Of a cost at a size: what falls to one element, where the size makes a difference.
+    double share(double cost, int64_t n) const {
+        return shape.rule == Rule::constant ? cost : cost / static_cast<double>(n);
+    }
+    double elementAt(int64_t n) const { return share(at(n).time, n); }
 
 private:
     double limit() const {
@@ -167,10 +171,15 @@ std::string microseconds(double ns) {
     return text;
 }
 
-// A table's row: its cells as text, numbers to the right.
-void printRow(bool markdown, std::string const &first, std::vector<std::string> const &cells) {
-    std::printf(markdown ? "| %s |" : "%-58s", first.c_str());
-    for (std::string const &cell : cells) std::printf(markdown ? " %s |" : "%9s", cell.c_str());
+std::string decimal(double value, char const *format) {
+    char text[32];
+    std::snprintf(text, sizeof text, format, value);
+    return text;
+}
+
+void printRow(std::string const &first, std::vector<std::string> const &cells) {
+    std::printf("%-58s", first.c_str());
+    for (std::string const &cell : cells) std::printf("%9s", cell.c_str());
     std::printf("\n");
 }
 
@@ -178,14 +187,7 @@ void printHeading(Options const &options, std::string const &first, std::vector<
     std::vector<std::string> cells;
     for (int64_t n : options.limits->sizes) cells.push_back(std::to_string(n));
     cells.insert(cells.end(), last.begin(), last.end());
-    printRow(options.markdown, first, cells);
-    if (options.markdown) printRow(true, "---", std::vector<std::string>(cells.size(), "---:"));
-}
-
-std::string decimal(double value, char const *format) {
-    char text[32];
-    std::snprintf(text, sizeof text, format, value);
-    return text;
+    printRow(first, cells);
 }
 
 void printTimes(Options const &options, std::vector<Measurement> const &all) {
@@ -197,7 +199,7 @@ void printTimes(Options const &options, std::vector<Measurement> const &all) {
         cells.push_back(one.shape.rule == Rule::constant ? "-" : decimal(one.elementAt(n), "%.0f"));
         cells.push_back(decimal(one.worstTime(), "%.2f"));
         cells.push_back(one.broken().empty() ? "holds" : "BROKEN");
-        printRow(options.markdown, title(one.shape), cells);
+        printRow(title(one.shape), cells);
     }
 }
 
@@ -207,7 +209,25 @@ void printMemory(Options const &options, std::vector<Measurement> const &all) {
         std::vector<std::string> cells;
         for (int64_t size : options.limits->sizes) cells.push_back(siBytes(one.at(size).memory.highest));
         cells.push_back(decimal(one.worstMemory(), "%.2f"));
-        printRow(options.markdown, title(one.shape), cells);
+        printRow(title(one.shape), cells);
+    }
+}
+
+// One table of both, for each element.
+void printMarkdown(Options const &options, std::vector<Measurement> const &all) {
+    std::vector<int64_t> const &sizes = options.limits->sizes;
+    std::printf("| | ns for each of %ld |", static_cast<long>(sizes.front()));
+    for (int64_t n : {options.limits->limitedSize, sizes.back()}) std::printf(" of %ld |", static_cast<long>(n));
+    std::printf(" growth of time | heap bytes for each | growth of memory |\n| --- |%s\n",
+                " ---: | ---: | ---: | ---: | ---: | ---: |");
+    for (Measurement const &one : all) {
+        std::printf("| %s |", title(one.shape).c_str());
+        for (int64_t n : {sizes.front(), options.limits->limitedSize, sizes.back()}) {
+            double const share = one.share(one.at(n).time, n);
+            std::printf(share < 10 ? " %.1f |" : " %.0f |", share);
+        }
+        auto const bytes = static_cast<double>(one.at(sizes.back()).memory.highest);
+        std::printf(" %.2f | %.0f | %.2f |\n", one.worstTime(), one.share(bytes, sizes.back()), one.worstMemory());
     }
 }
 
@@ -243,9 +263,13 @@ bool readOptions(int argc, char **argv, Options *options) {
 }
 
 int report(Options const &options, std::vector<Measurement> const &all) {
-    printTimes(options, all);
-    std::printf("\n");
-    printMemory(options, all);
+    if (options.markdown) {
+        printMarkdown(options, all);
+    } else {
+        printTimes(options, all);
+        std::printf("\n");
+        printMemory(options, all);
+    }
     std::fflush(stdout);
     if (options.tsv && !writeTsv(options.tsv, all)) {
         std::perror(options.tsv);
