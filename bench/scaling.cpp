@@ -279,7 +279,8 @@ int report(Options const &options, std::vector<Measurement> const &all) {
     for (Measurement const &one : all) {
         if (one.broken().empty()) continue;
         broken++;
-        std::fprintf(stderr, "%s breaks its rule: %s\n", title(one.shape).c_str(), one.broken().c_str());
+        std::fprintf(stderr, "%s breaks its rule: %s (growth of time %.2f, of memory %.2f)\n", title(one.shape).c_str(),
+                     one.broken().c_str(), one.worstTime(), one.worstMemory());
     }
     std::fprintf(stderr, "%d of %zu shapes are broken\n", broken, all.size());
     return broken > 0;

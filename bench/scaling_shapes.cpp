@@ -129,9 +129,10 @@ std::string routeLines(int64_t n) {
 std::string allowTokens(int64_t n) {
     return "Allow: A" + joined(n - 1, [](int64_t i) { return ", A" + number(i); }) + "\r\n";
 }
+std::string escapesInParameter(int64_t n) { return "Contact: <sip:a@b.example>;x=\"" + repeated(n, "\\a") + "\"\r\n"; }
 std::string contactParams(int64_t n) { return "Contact: <sip:astrid@ws7.example.org>" + joined(n, param) + "\r\n"; }
 
-// Lines of one typed header, which is the shape's name.
+// A shape of the lines of one typed header.
 struct Typed {
     char const *name;
     char const *header;
@@ -147,8 +148,7 @@ struct Typed {
     {"folds of one Subject", "Subject", [](int64_t n) { return "Subject: a" + repeated(n, "\r\n b") + "\r\n"; }},
     {"escapes in a display name", "From",
      [](int64_t n) { return "From: \"" + repeated(n, "\\a") + "\" <sip:a@b.example>;tag=1\r\n"; }},
-    {"escapes in a parameter", "Contact",
-     [](int64_t n) { return "Contact: <sip:a@b.example>;x=\"" + repeated(n, "\\a") + "\"\r\n"; }},
+    {"escapes in a parameter", "Contact", escapesInParameter},
     {"nested comments of Server", "Server",
      [](int64_t n) { return "Server: a " + repeated(n, "(") + repeated(n, ")") + "\r\n"; }},
     {"nested comments of User-Agent", "User-Agent",
@@ -211,7 +211,7 @@ void addUntyped(Shapes &all) {
 // Elements as values: an object and its strings for each.
 void addElements(Shapes &all) {
     auto const add = [&all](char const *name, std::string (*text)(int64_t), auto const &list) {
-        all.push_back({name, "each as a value", Rule::linear, false, [text, &list](int64_t n) {
+        all.push_back({name, "as values", Rule::linear, false, [text, &list](int64_t n) {
                            auto const message = decoded(bufferOf(request(text(n))).get());
                            auto const header = std::shared_ptr(list.of(message.get()));
                            return [header, &list] { list.readAll(header.get()); };
@@ -219,6 +219,7 @@ void addElements(Shapes &all) {
     };
     add("Via elements of one line", viaElements, vias);
     add("Route lines", routeLines, routes);
+    add("escapes in a parameter", escapesInParameter, contacts);
     all.push_back({"parameters of one Contact", "the value and its parameters", Rule::linear, false, [](int64_t n) {
                        auto const message = decoded(bufferOf(request(contactParams(n))).get());
                        auto const header = std::shared_ptr(contacts.of(message.get()));
