@@ -20,7 +20,7 @@ def row(name, cells, w=17): print(f"{name:20s}" + "".join(f"{c:>{w}s}" for c in 
 TITLES = {"W1": "decode and free", "W2": "decode and read the typed core", "W3": "a proxy's hop", "W4": "encode again"}
 def markdown(w, rows):
     print(f"\n| {TITLES.get(w, w)} | {' | '.join(MSGS)} |\n|{'---|' * (len(MSGS) + 1)}")
-    for p in rows: print(f"| {p} | {' | '.join(f'{min(cy[p, w, m]):.0f}' if (p, w, m) in cy else '-' for m in MSGS)} |")
+    for p in rows: print(f"| {p.partition('-')[0]} | {' | '.join(f'{min(cy[p, w, m]):.0f}' if (p, w, m) in cy else '-' for m in MSGS)} |")
 for w in wls:
     rows = [p for p in peers if any((p, w, m) in mn for m in MSGS)]
     if os.environ.get("TABLE") == "markdown":
