@@ -1,185 +1,184 @@
-// How long the samples take to read and to write, and how much memory is asked for on the way.
+// How long messages take to read and to write, and how much memory is asked for on the way.
 //
-//     build/release/message_bench                                  every sample that is a message
-//     build/release/message_bench --benchmark_filter=/invite_16    the message whose figures are quoted
+//     build/release/message_bench                                  bench/corpus, then samples/
+//     build/release/message_bench --benchmark_filter=/invite$      one message
+//     build/release/message_bench --benchmark_filter=^sixTypedHeaders --benchmark_format=json
 //
-// One iteration handles one message. "allocations" counts the calls of malloc, calloc, realloc and their like, and
-// "allocated" the bytes they ask for, per message.
+// One iteration handles one message, or the one header of it that is named; streamOfMany handles 10,000 messages, and
+// items_per_second counts them. "allocations" counts the calls of malloc, calloc, realloc and their like, and
+// "allocated" the bytes they ask for, in an iteration.
+
+#include "heap.hpp"
+#include "objects.hpp"
+#include "workloads.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <cerrno>
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <quill/quill.h>
-#include <string>
 #include <vector>
 
-// Every allocation of the program, the library's included, comes through here. The benchmarks run in one thread.
-
-static int64_t allocations;
-static int64_t allocatedBytes;
-
-extern "C" {
-void *__libc_malloc(size_t size);
-void *__libc_calloc(size_t count, size_t size);
-void *__libc_realloc(void *memory, size_t size);
-void *__libc_memalign(size_t alignment, size_t size);
-
-void *malloc(size_t size) noexcept {
-    allocations++;
-    allocatedBytes += static_cast<int64_t>(size);
-    return __libc_malloc(size);
-}
-
-void *calloc(size_t count, size_t size) noexcept {
-    allocations++;
-    allocatedBytes += static_cast<int64_t>(count * size);
-    return __libc_calloc(count, size);
-}
-
-void *realloc(void *memory, size_t size) noexcept {
-    allocations++;
-    allocatedBytes += static_cast<int64_t>(size);
-    return __libc_realloc(memory, size);
-}
-
-void *memalign(size_t alignment, size_t size) noexcept {
-    allocations++;
-    allocatedBytes += static_cast<int64_t>(size);
-    return __libc_memalign(alignment, size);
-}
-
-void *aligned_alloc(size_t alignment, size_t size) noexcept { return memalign(alignment, size); }
-
-int posix_memalign(void **memory, size_t alignment, size_t size) noexcept {
-    *memory = memalign(alignment, size);
-    return *memory || size == 0 ? 0 : ENOMEM;
-}
-}
+using namespace bench;
 
 namespace {
 
 struct Sample {
     std::string name;
-    coBuffer *bytes;
-    quillMessage *message;
+    Held<coBuffer> bytes;
+    Held<quillMessage> message;
 };
 
-// The counters of one benchmark: from its construction to its report.
-class Counters {
-public:
-    void report(benchmark::State &state, Sample const &sample) const {
-        auto const perMessage = [](int64_t total) {
-            return benchmark::Counter(static_cast<double>(total), benchmark::Counter::kAvgIterations);
-        };
-        state.counters["allocations"] = perMessage(allocations - allocationsBefore);
-        state.counters["allocated"] = perMessage(allocatedBytes - bytesBefore);
-        state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * coBufferLength(sample.bytes));
-        state.SetItemsProcessed(static_cast<int64_t>(state.iterations()));
-    }
+proxy theProxy;
 
-private:
-    int64_t allocationsBefore = allocations;
-    int64_t bytesBefore = allocatedBytes;
-};
-
-void decode(benchmark::State &state, Sample const &sample) {
-    Counters const counters;
-    for (auto _ : state) {
-        quillMessage *message = quillMessageTryDecode(sample.bytes);
-        if (!message) return state.SkipWithError("the message does not decode");
-        quillMessageRelease(message);
-    }
-    counters.report(state, sample);
+// Runs the work of one iteration, and counts.
+template <class Work> void measure(benchmark::State &state, int64_t bytes, int64_t messages, Work const &work) {
+    int64_t const callsBefore = heap::calls;
+    int64_t const askedBefore = heap::asked;
+    for (auto _ : state) work();
+    auto const average = [](int64_t total) {
+        return benchmark::Counter(static_cast<double>(total), benchmark::Counter::kAvgIterations);
+    };
+    state.counters["allocations"] = average(heap::calls - callsBefore);
+    state.counters["allocated"] = average(heap::asked - askedBefore);
+    auto const iterations = static_cast<int64_t>(state.iterations());
+    if (bytes > 0) state.SetBytesProcessed(iterations * bytes);
+    state.SetItemsProcessed(iterations * messages);
 }
 
-void encode(benchmark::State &state, Sample const &sample) {
-    Counters const counters;
-    for (auto _ : state) {
-        coBuffer *bytes = quillMessageEncode(sample.message);
-        benchmark::DoNotOptimize(coBufferBacking(bytes));
-        coBufferRelease(bytes);
-    }
-    counters.report(state, sample);
+// On the message as it came.
+
+void readCore(quillMessage const *message) {
+    core read;
+    coreRead(message, &read);
+    benchmark::DoNotOptimize(read);
+    coreRelease(&read);
 }
 
-void decodeAndEncode(benchmark::State &state, Sample const &sample) {
-    Counters const counters;
-    for (auto _ : state) {
-        quillMessage *message = quillMessageTryDecode(sample.bytes);
-        if (!message) return state.SkipWithError("the message does not decode");
-        coBuffer *bytes = quillMessageEncode(message);
-        benchmark::DoNotOptimize(coBufferBacking(bytes));
-        coBufferRelease(bytes);
-        quillMessageRelease(message);
-    }
-    counters.report(state, sample);
+void decode(Sample const &sample) { decoded(sample.bytes.get()); }
+
+void decodeEncode(Sample const &sample) { benchmark::DoNotOptimize(encodedLength(decoded(sample.bytes.get()).get())); }
+
+void typedCore(Sample const &sample) { readCore(decoded(sample.bytes.get()).get()); }
+
+void hop(Sample const &sample) {
+    quillMessage *message = decoded(sample.bytes.get()).release();
+    readCore(message);
+    proxyHop(&theProxy, &message);
+    benchmark::DoNotOptimize(encodedLength(message));
+    quillMessageRelease(message);
 }
 
-// Writes the message to one decoder in pieces of a size, reading after each piece as a connection would. The bytes are
-// what the encoder writes: with a Content-Length, which a stream needs.
-void stream(benchmark::State &state, Sample const &sample, int64_t pieceSize) {
-    coBuffer *whole = quillMessageEncode(sample.message);
-    std::vector<coBuffer *> pieces;
-    int64_t const length = coBufferLength(whole);
-    for (int64_t at = 0; at < length; at += pieceSize) {
-        pieces.push_back(coBufferRead(whole, at, std::min(pieceSize, length - at)));
-    }
-    quillMessageStreamDecoder *decoder = quillMessageStreamDecoderCreate();
-    Counters const counters;
-    for (auto _ : state) {
-        int64_t messages = 0;
-        for (coBuffer const *piece : pieces) {
-            quillMessageStreamDecoderWrite(decoder, piece);
-            while (quillMessage *message = quillMessageStreamDecoderRead(decoder)) {
-                messages++;
-                quillMessageRelease(message);
-            }
-        }
-        if (messages != 1) {
-            state.SkipWithError("the stream does not hold one message");
-            break;
-        }
-    }
-    counters.report(state, sample);
-    quillMessageStreamDecoderRelease(decoder);
-    for (coBuffer *piece : pieces) coBufferRelease(piece);
-    coBufferRelease(whole);
+// On the decoded message.
+
+void encode(Sample const &sample) { benchmark::DoNotOptimize(encodedLength(sample.message.get())); }
+
+// Via, From, To, CSeq, Call-ID and Contact, the elements of the lists as values.
+void sixTypedHeaders(Sample const &sample) {
+    quillMessage const *message = sample.message.get();
+    auto const vias = held(quillHeaderViaTryDecodeFromMessage(message), quillHeaderViaRelease);
+    auto const via = held(given(quillHeaderViaTryDecodeViaAt(vias.get(), 0), "a Via"), quillViaRelease);
+    auto const from = held(quillHeaderFromTryDecodeFromMessage(message), quillHeaderFromRelease);
+    auto const to = held(quillHeaderToTryDecodeFromMessage(message), quillHeaderToRelease);
+    auto const cseq = held(quillHeaderCseqTryDecodeFromMessage(message), quillHeaderCseqRelease);
+    auto const callId = held(quillHeaderCallIdTryDecodeFromMessage(message), quillHeaderCallIdRelease);
+    auto const contacts = held(quillHeaderContactTryDecodeFromMessage(message), quillHeaderContactRelease);
+    auto const contact =
+        held(given(quillHeaderContactTryDecodeContactAt(contacts.get(), 0), "a Contact"), quillContactRelease);
 }
 
-std::vector<Sample> readSamples(std::filesystem::path const &directory) {
+// On a stream. The bytes are what the encoder writes: with a Content-Length, which a stream needs.
+
+void stream(benchmark::State &state, Sample const &sample, int64_t messages, int64_t pieceLength) {
+    auto const one = held(quillMessageEncode(sample.message.get()), coBufferRelease);
+    coBuffer *all = coBufferCreate();
+    for (int64_t i = 0; i < messages; i++) coBufferAppend(&all, one.get());
+    auto const bytes = held(all, coBufferRelease);
+    auto const decoder = held(quillMessageStreamDecoderCreate(), quillMessageStreamDecoderRelease);
+    measure(state, coBufferLength(bytes.get()), messages, [&] {
+        if (decodeStream(decoder.get(), bytes.get(), pieceLength) != messages)
+            state.SkipWithError("not all messages came out of the stream");
+    });
+}
+
+std::vector<Sample> readSamples(std::filesystem::path const &directory, std::string const &prefix) {
     std::vector<Sample> samples;
     for (auto const &entry : std::filesystem::directory_iterator(directory)) {
         if (entry.path().extension() != ".sip") continue;
         std::ifstream file(entry.path(), std::ios::binary);
-        std::string const text{std::istreambuf_iterator<char>(file), {}};
-        coBuffer *bytes = coBufferCreateFromBytesCopy(reinterpret_cast<uint8_t const *>(text.data()),
-                                                      static_cast<int64_t>(text.size()));
-        if (quillMessage *message = quillMessageTryDecode(bytes)) {
-            samples.push_back({entry.path().stem().string(), bytes, message});
-        } else {
-            coBufferRelease(bytes); // a sample of what is no message
-        }
+        auto bytes = bufferOf(std::string{std::istreambuf_iterator<char>(file), {}});
+        auto message = held(quillMessageTryDecode(bytes.get()), quillMessageRelease);
+        if (message) // or else a sample of what is no message
+            samples.push_back({prefix + entry.path().stem().string(), std::move(bytes), std::move(message)});
     }
     std::sort(samples.begin(), samples.end(), [](Sample const &a, Sample const &b) { return a.name < b.name; });
     return samples;
 }
 
-void registerBenchmarks(Sample const &sample) {
-    auto const add = [&sample](std::string const &what, auto run) {
-        benchmark::RegisterBenchmark((what + "/" + sample.name).c_str(), run);
-    };
-    add("decode", [&sample](benchmark::State &state) { decode(state, sample); });
-    add("encode", [&sample](benchmark::State &state) { encode(state, sample); });
-    add("decode_encode", [&sample](benchmark::State &state) { decodeAndEncode(state, sample); });
-    add("stream_whole", [&sample](benchmark::State &state) { stream(state, sample, INT64_MAX / 2); });
-    add("stream_64", [&sample](benchmark::State &state) { stream(state, sample, 64); });
-    add("stream_1", [&sample](benchmark::State &state) { stream(state, sample, 1); });
+template <class Run> void add(std::string const &what, Sample const &sample, Run const &run) {
+    benchmark::RegisterBenchmark((what + "/" + sample.name).c_str(), run);
+}
+
+void addWork(std::string const &what, Sample const &sample, void (*work)(Sample const &)) {
+    add(what, sample, [&sample, work](benchmark::State &state) {
+        measure(state, coBufferLength(sample.bytes.get()), 1, [&] { work(sample); });
+    });
+}
+
+void addStream(std::string const &what, Sample const &sample, int64_t messages, int64_t pieceLength) {
+    add(what, sample, [=, &sample](benchmark::State &state) { stream(state, sample, messages, pieceLength); });
+}
+
+constexpr int64_t unlimited = INT64_MAX / 2;
+
+void addReadingAndWriting(Sample const &sample) {
+    addWork("decode", sample, decode);
+    addWork("encode", sample, encode);
+    addWork("decodeEncode", sample, decodeEncode);
+    addStream("streamWhole", sample, 1, unlimited);
+    addStream("stream64", sample, 1, 64);
+    addStream("stream1", sample, 1, 1);
+}
+
+bool present(Sample const &sample, char const *name) {
+    return quillMessageHasHeaderCstr(sample.message.get(), name, -1);
+}
+
+void addProxyWork(Sample const &sample) {
+    addWork("typedCore", sample, typedCore);
+    addWork("hop", sample, hop);
+    addStream("streamOfMany", sample, 10000, unlimited);
+    if (present(sample, "Contact")) addWork("sixTypedHeaders", sample, sixTypedHeaders);
+}
+
+// Each typed header that a message has, alone.
+void addTypedHeaders(Sample const &sample) {
+    for (int64_t i = 0; i < quillTypedHeadersLength(); i++) {
+        quillTypedHeader const *type = quillTypedHeaderAt(i);
+        if (!type->presentInMessage(sample.message.get())) continue;
+        add("typed" + std::string(type->type), sample, [type, &sample](benchmark::State &state) {
+            measure(state, 0, 1,
+                    [&] { held(given(type->tryDecodeFromMessage(sample.message.get()), type->name), coObjRelease); });
+        });
+    }
+}
+
+int run() {
+    std::vector<Sample> const corpus = readSamples(QUILL_CORPUS, "");
+    std::vector<Sample> const samples = readSamples(QUILL_SAMPLES, "samples/");
+    if (corpus.empty() || samples.empty()) {
+        std::fprintf(stderr, "message_bench: no messages in %s or %s\n", QUILL_CORPUS, QUILL_SAMPLES);
+        return 1;
+    }
+    for (Sample const &sample : corpus) {
+        addReadingAndWriting(sample);
+        addProxyWork(sample);
+        addTypedHeaders(sample);
+    }
+    for (Sample const &sample : samples) addReadingAndWriting(sample);
+    if (benchmark::RunSpecifiedBenchmarks() > 0) return 0;
+    std::fprintf(stderr, "message_bench: no benchmark has this name\n");
+    return 1;
 }
 
 } // namespace
@@ -188,16 +187,9 @@ int main(int argc, char **argv) {
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     coModuleLoad(quillModule());
-    std::vector<Sample> const samples = readSamples(QUILL_SAMPLES);
-    for (Sample const &sample : samples) registerBenchmarks(sample);
-    if (benchmark::RunSpecifiedBenchmarks() == 0) {
-        std::fprintf(stderr, "message_bench: nothing to run on the samples in %s\n", QUILL_SAMPLES);
-        return 1;
-    }
-    for (Sample const &sample : samples) {
-        quillMessageRelease(sample.message);
-        coBufferRelease(sample.bytes);
-    }
+    theProxy = proxyCreate();
+    int const status = run();
+    proxyRelease(&theProxy);
     coModuleUnload(quillModule());
-    return 0;
+    return status;
 }

@@ -1,19 +1,13 @@
 /* This library, through its public interface: what a proxy written against it would do. Decoding keeps the received
  * bytes and an index over them; typed headers are decoded when they are asked for. */
+#include "../workloads.h"
 #include "bench.h"
-#include <quill/quill.h>
 
-static struct quillVersion *sip20;
-static struct coString *transport;
-static struct coString *proxyHost;
-static struct coString *proxyBranch;
+static struct proxy proxy;
 
 static void init(void) {
     coModuleLoad(quillModule());
-    sip20 = quillVersionCreateSip20();
-    transport = coStringCreateFromCstr("udp", -1);
-    proxyHost = coStringCreateFromCstr("proxy.fjord.example.com", -1);
-    proxyBranch = coStringCreateFromCstr("z9hG4bKhop00001", -1);
+    proxy = proxyCreate();
 }
 
 static struct quillMessage *parse(char const *p, size_t n) {
@@ -30,86 +24,28 @@ static int decode(char const *p, size_t n) {
     return 0;
 }
 
-/* A string as the harness sums it up: where it is and how long. It is held until the end. */
-typedef struct {
-    struct coString *held[16];
-    int n;
-} held_t;
-static bstr S(held_t *h, struct coString *s) {
+/* A string as the harness sums it up: where it is and how long. */
+static bstr S(struct coString const *s) {
     bstr r = {"", 0};
     if (!s) return r;
-    h->held[h->n++] = s;
     r.p = (char const *)coStringBacking(s);
     r.n = (size_t)coStringLength(s);
     return r;
 }
 
+/* The strings of the core stand in the harness's order. */
 static void rd(struct quillMessage *m, access_t *a) {
-    held_t h = {{0}, 0};
+    struct core core;
+    coreRead(m, &core);
     memset(a, 0, sizeof *a);
-
-    struct quillHeaderVia *vias = quillHeaderViaTryDecodeFromMessage(m);
-    struct quillVia *via = vias ? quillHeaderViaTryDecodeViaAt(vias, 0) : NULL;
-    if (via) {
-        a->via_host = S(&h, quillViaHost(via));
-        a->via_branch = S(&h, quillViaBranch(via));
-        a->via_port = (long)quillViaPort(via);
-        a->nvia = (long)quillHeaderViaViasLength(vias);
-        quillViaRelease(via);
-    }
-    if (vias) quillHeaderViaRelease(vias);
-
-    struct quillHeaderFrom *from = quillHeaderFromTryDecodeFromMessage(m);
-    if (from) {
-        a->from_user = S(&h, quillHeaderFromIri(from));
-        a->from_host = S(&h, quillHeaderFromDisplayName(from));
-        a->from_tag = S(&h, quillHeaderFromTag(from));
-        quillHeaderFromRelease(from);
-    }
-    struct quillHeaderTo *to = quillHeaderToTryDecodeFromMessage(m);
-    if (to) {
-        a->to_user = S(&h, quillHeaderToIri(to));
-        a->to_host = S(&h, quillHeaderToDisplayName(to));
-        a->to_tag = S(&h, quillHeaderToTag(to));
-        quillHeaderToRelease(to);
-    }
-    struct quillHeaderCallId *callId = quillHeaderCallIdTryDecodeFromMessage(m);
-    if (callId) {
-        a->callid = S(&h, quillHeaderCallIdCallId(callId));
-        quillHeaderCallIdRelease(callId);
-    }
-    struct quillHeaderCseq *cseq = quillHeaderCseqTryDecodeFromMessage(m);
-    if (cseq) {
-        a->cseq = (long)quillHeaderCseqCseq(cseq);
-        a->cseq_method = S(&h, quillHeaderCseqMethod(cseq));
-        quillHeaderCseqRelease(cseq);
-    }
-    struct quillHeaderContact *contacts = quillHeaderContactTryDecodeFromMessage(m);
-    struct quillContact *contact = contacts && quillHeaderContactContactsLength(contacts) > 0
-                                       ? quillHeaderContactTryDecodeContactAt(contacts, 0)
-                                       : NULL;
-    if (contact) {
-        a->contact_host = S(&h, quillContactIri(contact));
-        quillContactRelease(contact);
-    }
-    if (contacts) quillHeaderContactRelease(contacts);
-
-    struct quillHeaderMaxForwards *maxForwards = quillHeaderMaxForwardsTryDecodeFromMessage(m);
-    if (maxForwards) {
-        a->maxfwd = (long)quillHeaderMaxForwardsMaxForwards(maxForwards);
-        quillHeaderMaxForwardsRelease(maxForwards);
-    }
-    struct quillHeaderRoute *routes = quillHeaderRouteTryDecodeFromMessage(m);
-    struct quillRoute *route = routes ? quillHeaderRouteTryDecodeRouteAt(routes, 0) : NULL;
-    if (route) {
-        a->route_host = S(&h, quillRouteIri(route));
-        a->nroute = (long)quillHeaderRouteRoutesLength(routes);
-        quillRouteRelease(route);
-    }
-    if (routes) quillHeaderRouteRelease(routes);
-
+    for (int i = 0; i < CORE_STRINGS; i++) (&a->via_host)[i] = S(core.strings[i]);
+    a->via_port = (long)core.viaPort;
+    a->nvia = (long)core.vias;
+    a->cseq = (long)core.cseq;
+    a->maxfwd = (long)core.maxForwards;
+    a->nroute = (long)core.routes;
     access_done(a);
-    for (int i = 0; i < h.n; i++) coStringRelease(h.held[i]);
+    coreRelease(&core);
 }
 
 static int decodeAccess(char const *p, size_t n, access_t *a) {
@@ -136,22 +72,7 @@ static long hop(char const *p, size_t n, char *out, size_t cap) {
     struct quillMessage *m = parse(p, n);
     if (!m) return -1;
     rd(m, &a);
-
-    struct quillHeaderVia *vias = quillHeaderViaTryDecodeFromMessage(m);
-    struct quillVia *via = quillViaCreateWithPort(sip20, transport, proxyHost, 5060);
-    quillViaSetBranch(&via, proxyBranch);
-    quillHeaderViaPrependVia(&vias, via);
-    quillHeaderViaEncodeToMessage(vias, &m);
-    quillViaRelease(via);
-    quillHeaderViaRelease(vias);
-
-    struct quillHeaderMaxForwards *maxForwards = quillHeaderMaxForwardsTryDecodeFromMessage(m);
-    if (maxForwards) {
-        quillHeaderMaxForwardsSetMaxForwards(&maxForwards, quillHeaderMaxForwardsMaxForwards(maxForwards) - 1);
-        quillHeaderMaxForwardsEncodeToMessage(maxForwards, &m);
-        quillHeaderMaxForwardsRelease(maxForwards);
-    }
-
+    proxyHop(&proxy, &m);
     long r = encode(m, out, cap);
     quillMessageRelease(m);
     return r;

@@ -3,7 +3,7 @@
   ns: best block of all rounds (median of the rounds' medians)
   core cycles: best of the rounds' medians -- independent of the core's clock, the column for ratios
   ratio: cycles / cycles of the fastest peer in that column
-TABLE=cycles prints the cycle and ratio tables only."""
+TABLE=cycles prints the cycle and ratio tables only, TABLE=markdown the cycles as they stand in docs/performance.md."""
 import os, sys, statistics
 from collections import defaultdict
 MSGS = ["options", "register", "invite", "invite_hops", "ok_sdp", "notify_xml", "bye_route", "compact_fold"]
@@ -17,8 +17,15 @@ for f in sys.argv[1:] or ["/dev/stdin"]:
         if p[1] not in wls: wls.append(p[1])
 def fmt(x): return f"{x:.0f}" if x >= 100 else f"{x:.1f}"
 def row(name, cells, w=17): print(f"{name:20s}" + "".join(f"{c:>{w}s}" for c in cells))
+TITLES = {"W1": "decode and free", "W2": "decode and read the typed core", "W3": "a proxy's hop", "W4": "encode again"}
+def markdown(w, rows):
+    print(f"\n| {TITLES.get(w, w)} | {' | '.join(MSGS)} |\n|{'---|' * (len(MSGS) + 1)}")
+    for p in rows: print(f"| {p.partition('-')[0]} | {' | '.join(f'{min(cy[p, w, m]):.0f}' if (p, w, m) in cy else '-' for m in MSGS)} |")
 for w in wls:
     rows = [p for p in peers if any((p, w, m) in mn for m in MSGS)]
+    if os.environ.get("TABLE") == "markdown":
+        markdown(w, rows)
+        continue
     if os.environ.get("TABLE") != "cycles":
         print(f"\n== {w}: ns per message, min (median)"); row("", MSGS)
         for p in rows: row(p, [f"{fmt(min(mn[k]))} ({fmt(statistics.median(md[k]))})" if (k := (p, w, m)) in mn else "-" for m in MSGS])

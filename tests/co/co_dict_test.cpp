@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <co/co_dict.hpp>
+#include <co/co_hash.hpp>
 #include <co/co_vector.hpp>
 #include <random>
 #include <support/growth.hpp>
@@ -315,6 +316,31 @@ TEST_F(DictCost, WalksCostWhatIsLeft) {
                                }
                            }),
               test::linear);
+}
+
+// Keys that share a slot of the table, for who knows the key of the hash.
+std::vector<co::Ref<coString>> makeCollidingKeys(co::HashKey known, size_t count) {
+    std::vector<co::Ref<coString>> keys;
+    for (int64_t i = 0; keys.size() < count; i++) {
+        co::Ref<coString> key(coFormatEncodeInt(i, 10, 0, 0));
+        if (co::sipHash(known, key->view()) % 2048 == 0) keys.push_back(std::move(key));
+    }
+    return keys;
+}
+
+double secondsToFill(std::vector<co::Ref<coString>> const &keys) {
+    return test::seconds([&] {
+        co::Ref<coDict> dict(coDictCreate());
+        for (auto const &key : keys) coDictSetStringKey(dict.address(), key.get(), coStringObj(key.get()));
+    });
+}
+
+// A sender knows the hash, but not the key that the process has drawn. With the key it could make a dictionary slow.
+TEST(Dict, KeysThatCollideUnderAnotherHashKeyCostNoMore) {
+    constexpr size_t count = 1000;
+    double const usual = secondsToFill(makeKeys(count));
+    EXPECT_LT(secondsToFill(makeCollidingKeys({0, 0}, count)), usual * 3);
+    EXPECT_GT(secondsToFill(makeCollidingKeys(co::processHashKey(), count)), usual * 3) << "what is prevented";
 }
 
 TEST(Dict, BrokenPreconditionsAbort) {
