@@ -106,7 +106,29 @@ int64_t widenAnyBytes(coChar *chars, std::string_view bytes) {
 
 static coChar scalar(coChar ch) { return ch > 0x10FFFF || (ch >= 0xD800 && ch < 0xE000) ? replacement : ch; }
 
-int64_t utf8Length(std::u32string_view chars) {
+// Text is measured and narrowed in blocks, since most blocks are ASCII alone: the compiler makes vector instructions of
+// a count that it knows.
+static constexpr size_t block = 16;
+
+static bool isAsciiBlock(coChar const *chars) {
+    coChar all = 0;
+    for (size_t i = 0; i < block; i++) all |= chars[i];
+    return all < 0x80;
+}
+
+static void narrowAsciiBlock(uint8_t *__restrict bytes, coChar const *__restrict chars) {
+    for (size_t i = 0; i < block; i++) bytes[i] = static_cast<uint8_t>(chars[i]);
+}
+
+bool isAscii(std::u32string_view chars) {
+    for (; chars.size() >= block; chars.remove_prefix(block))
+        if (!isAsciiBlock(chars.data())) return false;
+    coChar all = 0;
+    for (coChar const ch : chars) all |= ch;
+    return all < 0x80;
+}
+
+static int64_t lengthOfEach(std::u32string_view chars) {
     int64_t bytes = 0;
     for (coChar raw : chars) {
         coChar const ch = scalar(raw);
@@ -115,7 +137,14 @@ int64_t utf8Length(std::u32string_view chars) {
     return bytes;
 }
 
-uint8_t *narrowToUtf8(uint8_t *bytes, std::u32string_view chars) {
+int64_t utf8Length(std::u32string_view chars) {
+    int64_t bytes = 0;
+    for (; chars.size() >= block; chars.remove_prefix(block))
+        bytes += isAsciiBlock(chars.data()) ? static_cast<int64_t>(block) : lengthOfEach(chars.substr(0, block));
+    return bytes + lengthOfEach(chars);
+}
+
+static uint8_t *narrowEach(uint8_t *bytes, std::u32string_view chars) {
     for (coChar raw : chars) {
         if (raw < 0x80) {
             *bytes++ = static_cast<uint8_t>(raw);
@@ -135,6 +164,18 @@ uint8_t *narrowToUtf8(uint8_t *bytes, std::u32string_view chars) {
         *bytes++ = static_cast<uint8_t>(0x80 | (ch & 0x3F));
     }
     return bytes;
+}
+
+uint8_t *narrowToUtf8(uint8_t *bytes, std::u32string_view chars) {
+    for (; chars.size() >= block; chars.remove_prefix(block)) {
+        if (isAsciiBlock(chars.data())) {
+            narrowAsciiBlock(bytes, chars.data());
+            bytes += block;
+        } else {
+            bytes = narrowEach(bytes, chars.substr(0, block));
+        }
+    }
+    return narrowEach(bytes, chars);
 }
 
 } // namespace co

@@ -24,6 +24,9 @@ coChar *widenAscii(coChar *chars, std::string_view ascii);
 // `chars` is null; returns the count of code points.
 int64_t widenAnyBytes(coChar *chars, std::string_view bytes);
 
+// Whether all code points are US-ASCII.
+bool isAscii(std::u32string_view chars);
+
 // The bytes that code points take as UTF-8, and their writing; returns the end of what it wrote. What is no scalar
 // value (a surrogate, or above U+10FFFF) is written as U+FFFD.
 int64_t utf8Length(std::u32string_view chars);

@@ -174,6 +174,7 @@ int knownFieldName(std::string_view name) { return findKnown(name); }
 int knownFieldName(co::Chars name) { return findKnown(name); }
 
 static_assert(std::size(known) == knownFieldNameCount);
+static_assert(known[contentLengthField] == "Content-Length");
 coString *fieldNameAt(int i) { return knownNames[i]; }
 
 std::string_view fieldNameText(int i) {

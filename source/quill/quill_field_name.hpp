@@ -13,6 +13,7 @@ int knownFieldName(std::string_view name);
 int knownFieldName(co::Chars name);
 
 inline constexpr int knownFieldNameCount = 65;
+inline constexpr int contentLengthField = 59; // the number of Content-Length
 coString *fieldNameAt(int known);          // borrowed; null before start-up, all ones after shut-down
 std::string_view fieldNameText(int known); // the same as bytes
 

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <co/co_assert.hpp>
+#include <co/co_buffer.hpp>
 #include <co/co_hash.hpp>
 #include <co/co_memory.h>
-#include <cstring>
 #include <quill/quill_field_name.hpp>
 #include <quill/quill_header_table.hpp>
 #include <quill/quill_message_header.h>
@@ -67,7 +67,7 @@ struct HeaderSet : coObj {
 
     HeaderEntry *inlineEntries() { return reinterpret_cast<HeaderEntry *>(this + 1); }
     uint32_t find(co::Chars name, int known) const;
-    uint32_t add(HeaderEntry entry, int known); // takes the entry's references over
+    uint32_t add(HeaderEntry const &entry); // takes the entry's references over
     void remove(uint32_t place, int known);
 
 private:
@@ -145,7 +145,7 @@ void HeaderSet::indexAll() {
     std::fill(slots, slots + slotCount, noEntry);
     slotMask = slotCount - 1;
     for (int64_t i = 0; i < used; i++)
-        if (entries[i].name && knownFieldName(entries[i].name->view()) < 0) index(static_cast<uint32_t>(i));
+        if (entries[i].name && entries[i].known < 0) index(static_cast<uint32_t>(i));
 }
 
 void HeaderSet::grow() {
@@ -157,13 +157,13 @@ void HeaderSet::grow() {
     capacity = wanted;
 }
 
-uint32_t HeaderSet::add(HeaderEntry entry, int known) {
+uint32_t HeaderSet::add(HeaderEntry const &entry) {
     if (used == capacity) grow();
     auto const place = static_cast<uint32_t>(used++);
     length++;
     entries[place] = entry;
-    if (known >= 0) {
-        placeOfKnown[known] = place;
+    if (entry.known >= 0) {
+        placeOfKnown[entry.known] = place;
         return place;
     }
     unknown++;
@@ -189,8 +189,7 @@ void HeaderSet::closeGaps() {
     for (int64_t i = 0; i < used; i++) {
         if (!entries[i].name) continue;
         entries[kept] = entries[i];
-        int const known = knownFieldName(entries[kept].name->view());
-        if (known >= 0)
+        if (int const known = entries[kept].known; known >= 0)
             placeOfKnown[known] = static_cast<uint32_t>(kept);
         else
             unknown++;
@@ -212,7 +211,7 @@ static HeaderSet *writable(co::Slot<HeaderSet> *slot) {
             if (!entry.name) continue;
             co::retain(entry.name);
             entry.header = co::retained(entry.header);
-            own->add(entry, knownFieldName(entry.name->view()));
+            own->add(entry);
         }
     }
     slot->adopt(own);
@@ -268,6 +267,7 @@ public:
     }
 
     LineIndex index;
+    int64_t encodedLength = 0;
 
 private:
     bool add(Bytes line) {
@@ -310,19 +310,21 @@ private:
         co::Ref<coString> normal(known >= 0 ? co::retained(fieldNameAt(known)) : tryNormalizeFieldName(name));
         if (!normal) return false;
         bool const manyPieces = folded && value.find("\r\n") != Bytes::npos;
-        bool const canonical = !folded && !value.empty() && value.data() == pending.data() + colon + 2 &&
-                               value.data()[-1] == ' ' && value.data() + value.size() == end && name.size() == colon &&
-                               equals(name, normal->view());
+        bool const plain = !folded && !value.empty() && value.data() == pending.data() + colon + 2 &&
+                           value.data()[-1] == ' ' && value.data() + value.size() == end;
+        bool const canonical = plain && name.size() == colon && equals(name, normal->view());
+        encodedLength += normal->length + static_cast<int64_t>(value.size()) + 4;
         WireLine const line{offset(pending.data()),
                             offset(value.data()),
                             static_cast<uint32_t>(value.size()),
                             noLine,
                             manyPieces,
+                            plain,
                             canonical};
         uint32_t const place = index.add(line);
         uint32_t const at = set->find(normal->view(), known);
         if (at == noEntry) {
-            set->add({normal.take(), nullptr, place, place, 1}, known);
+            set->add({normal.take(), nullptr, place, place, 1, known});
             return true;
         }
         HeaderEntry &entry = set->entries[at];
@@ -355,6 +357,7 @@ bool HeaderTable::tryDecode(Bytes lines, bool ascii) {
     auto *text = static_cast<WireText *>(co::allocateObject(size, &WireText::sort));
     text->lineCount = index.count;
     text->byteCount = byteCount;
+    text->encodedLength = splitter.encodedLength;
     text->ascii = ascii;
     std::copy(index.lines, index.lines + index.count, text->lines());
     std::copy(lines.begin(), lines.end(), text->bytes());
@@ -479,7 +482,7 @@ void HeaderTable::set(struct quillMessageHeader *header) {
     int const known = knownFieldName(name);
     uint32_t const place = set->find(name, known);
     if (place == noEntry) {
-        set->add({header->name.retained(), co::retained(header), noLine, noLine, 0}, known);
+        set->add({header->name.retained(), co::retained(header), noLine, noLine, 0, known});
         return;
     }
     HeaderEntry &entry = set->entries[place];
@@ -499,103 +502,126 @@ void HeaderTable::removeAll() { headers.clear(); }
 
 namespace {
 
-uint8_t *put(uint8_t *at, Bytes bytes) {
-    std::memcpy(at, bytes.data(), bytes.size());
-    return at + bytes.size();
-}
-
-// Writes lines behind one another; lines that stood behind one another as they are written are copied at once.
+// Writes lines behind one another. What stands in the received bytes as it is written, from a line's start or from its
+// colon up to the next line that does not, is a run and copied at once.
 class LineWriter {
 public:
-    LineWriter(coBuffer **buffer, WireText const *wireText) : buf(buffer), text(wireText) {}
-    ~LineWriter() { flush(); }
+    LineWriter(uint8_t *to, WireText const *wireText) : at(to), text(wireText) {}
 
     void write(HeaderEntry const &entry) {
         if (entry.header) {
-            for (int64_t i = 0; i < entry.header->lines->length; i++)
-                write(entry.name->view(), co::stringAt(entry.header->lines.get(), i)->view());
+            coVector const *lines = entry.header->lines.get();
+            for (int64_t i = 0; i < lines->length; i++) write(entry, co::stringAt(lines, i)->view());
             return;
         }
         for (uint32_t i = entry.first; i != noLine; i = text->lines()[i].next) write(entry, text->lines()[i]);
     }
 
-    void flush() {
-        if (runEnd == runStart) return;
-        co::append(buf, Bytes(text->bytes() + runStart, runEnd - runStart));
-        co::append(buf, "\r\n");
-        runStart = runEnd = 0;
+    // A line in the place of the entry's, whose first one may be the same.
+    void writeInstead(HeaderEntry const &entry, Bytes whole) {
+        if (!entry.header) {
+            WireLine const &line = text->lines()[entry.first];
+            if (line.canonical && Bytes(text->bytes() + line.start, endOf(line) - line.start) == whole)
+                return addToRun(line.start, endOf(line));
+        }
+        write(whole);
+    }
+
+    void write(Bytes whole) {
+        flush();
+        at = co::put(co::put(at, whole), "\r\n");
+    }
+
+    uint8_t *finish() {
+        flush();
+        return at;
     }
 
 private:
+    static constexpr size_t nowhere = SIZE_MAX - 2;
+
+    static size_t endOf(WireLine const &line) { return size_t{line.value} + line.length; }
+
+    void addToRun(size_t start, size_t end) {
+        if (start != runEnd + 2) {
+            flush();
+            runStart = start;
+        }
+        runEnd = end;
+    }
+
+    void flush() {
+        if (runEnd == nowhere) return;
+        at = co::put(co::put(at, Bytes(text->bytes() + runStart, runEnd - runStart)), "\r\n");
+        runEnd = nowhere;
+    }
+
     void write(HeaderEntry const &entry, WireLine const &line) {
-        if (line.canonical) {
-            if (runEnd == runStart || line.start != runEnd + 2) {
-                flush();
-                runStart = line.start;
-            }
-            runEnd = line.value + line.length;
-            return;
-        }
+        if (line.canonical) return addToRun(line.start, endOf(line));
         flush();
-        co::Chars const name = entry.name->view();
-        uint8_t *const start = co::appendSpace(buf, static_cast<int64_t>(name.size() + line.length + 4));
-        uint8_t *end = put(co::narrowToUtf8(start, name), ": ");
-        if (!line.folded) {
-            end = put(end, text->valueOf(line));
-        } else {
-            uint8_t *const value = end;
-            forEachPiece(text->valueOf(line), [&](Bytes piece) {
-                if (end != value) *end++ = ' ';
-                end = put(end, piece);
-            });
-        }
-        end = put(end, "\r\n");
-        (*buf)->length += end - start;
+        putName(entry);
+        if (line.plain) return addToRun(line.value - 2, endOf(line));
+        at = co::put(at, ": ");
+        if (line.folded)
+            putJoined(text->valueOf(line));
+        else
+            at = co::put(at, text->valueOf(line));
+        at = co::put(at, "\r\n");
     }
 
-    void write(co::Chars name, co::Chars value) {
+    void write(HeaderEntry const &entry, co::Chars value) {
         flush();
-        int64_t const most = co::utf8Length(value) + static_cast<int64_t>(name.size()) + 4;
-        uint8_t *const start = co::appendSpace(buf, most);
-        uint8_t *end = put(co::narrowToUtf8(start, name), ": ");
-        end = put(co::narrowToUtf8(end, value), "\r\n");
-        (*buf)->length += end - start;
+        putName(entry);
+        at = co::put(at, ": ");
+        at = co::put(co::narrowToUtf8(at, value), "\r\n");
     }
 
-    coBuffer **buf;
+    void putName(HeaderEntry const &entry) {
+        at = entry.known >= 0 ? co::put(at, fieldNameText(entry.known)) : co::narrowToUtf8(at, entry.name->view());
+    }
+
+    void putJoined(Bytes folded) {
+        uint8_t *const start = at;
+        forEachPiece(folded, [&](Bytes piece) {
+            if (at != start) *at++ = ' ';
+            at = co::put(at, piece);
+        });
+    }
+
+    uint8_t *at;
     WireText const *text;
-    size_t runStart = 0;
-    size_t runEnd = 0;
+    size_t runStart = nowhere;
+    size_t runEnd = nowhere;
 };
 
 } // namespace
 
-void HeaderTable::encode(coBuffer **buf, co::Chars contentLengthName, int64_t contentLength) const {
+uint8_t *HeaderTable::encode(uint8_t *to, Bytes contentLengthLine) const {
     HeaderSet const *set = headers.get();
-    LineWriter writer(buf, set ? set->text : nullptr);
-    HeaderEntry const *lengthEntry = find(contentLengthName);
+    LineWriter writer(to, set ? set->text : nullptr);
+    HeaderEntry const *lengthEntry = find(contentLengthField);
     for (int64_t i = 0; set && i < set->used; i++) {
         HeaderEntry const &entry = set->entries[i];
         if (!entry.name) continue;
-        if (&entry != lengthEntry) {
+        if (&entry == lengthEntry)
+            writer.writeInstead(entry, contentLengthLine);
+        else
             writer.write(entry);
-            continue;
-        }
-        writer.flush();
-        quill___MessageFragmentEncodeContentLength(buf, contentLength);
     }
-    writer.flush();
-    if (!lengthEntry) quill___MessageFragmentEncodeContentLength(buf, contentLength);
+    if (!lengthEntry) writer.write(contentLengthLine);
+    return writer.finish();
 }
 
+// Lines of the received bytes count even where a header was set in their place: then there is room to spare.
 int64_t HeaderTable::encodedLength() const {
     HeaderSet const *set = headers.get();
     if (!set) return 0;
-    int64_t bytes = set->text ? set->text->byteCount : 0;
-    for (int64_t i = 0; i < set->used; i++)
-        if (struct quillMessageHeader const *header = set->entries[i].header)
-            for (int64_t k = 0; k < header->lines->length; k++)
-                bytes += header->name->length + co::stringAt(header->lines.get(), k)->length + 4;
+    int64_t bytes = set->text ? set->text->encodedLength : 0;
+    for (int64_t i = 0; i < set->used; i++) {
+        struct quillMessageHeader const *header = set->entries[i].header;
+        for (int64_t k = 0; header && k < header->lines->length; k++)
+            bytes += header->name->length + co::utf8Length(co::stringAt(header->lines.get(), k)->view()) + 4;
+    }
     return bytes;
 }
 
