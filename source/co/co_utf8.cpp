@@ -141,7 +141,7 @@ int64_t utf8Length(std::u32string_view chars) {
     int64_t bytes = 0;
     for (; chars.size() >= block; chars.remove_prefix(block))
         bytes += isAsciiBlock(chars.data()) ? static_cast<int64_t>(block) : lengthOfEach(chars.substr(0, block));
-    return bytes + lengthOfEach(chars);
+    return bytes + (isAscii(chars) ? static_cast<int64_t>(chars.size()) : lengthOfEach(chars));
 }
 
 static uint8_t *narrowEach(uint8_t *bytes, std::u32string_view chars) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <co/co_unicode.hpp>
+#include <cstring>
 #include <quill/quill_char.hpp>
 #include <quill/quill_family.hpp>
 #include <quill/quill_field_name.hpp>
@@ -55,9 +56,9 @@ constexpr coChar code(coChar ch) { return ch; }
 // bit for the case is set before it is compared.
 struct Known {
     size_t length;
-    std::array<char, 24> lower;
-    std::array<char, 24> caseBit;
-    std::array<char, 24> normal;
+    std::array<char, quill::fieldNameRoom> lower;
+    std::array<char, quill::fieldNameRoom> caseBit;
+    std::array<char, quill::fieldNameRoom> normal;
 };
 
 consteval Known formsOf(std::string_view name) {
@@ -180,6 +181,13 @@ coString *fieldNameAt(int i) { return knownNames[i]; }
 std::string_view fieldNameText(int i) {
     Known const &forms = knownForms[static_cast<size_t>(i)];
     return {forms.normal.data(), forms.length};
+}
+
+// A copy of constant length takes a few instructions.
+uint8_t *putFieldName(uint8_t *to, int i) {
+    Known const &forms = knownForms[static_cast<size_t>(i)];
+    std::memcpy(to, forms.normal.data(), fieldNameRoom);
+    return to + forms.length;
 }
 
 coString *tryNormalizeFieldName(std::string_view name) { return tryNormalize(name); }

@@ -14,8 +14,12 @@ int knownFieldName(co::Chars name);
 
 inline constexpr int knownFieldNameCount = 65;
 inline constexpr int contentLengthField = 59; // the number of Content-Length
-coString *fieldNameAt(int known);          // borrowed; null before start-up, all ones after shut-down
-std::string_view fieldNameText(int known); // the same as bytes
+coString *fieldNameAt(int known);             // borrowed; null before start-up, all ones after shut-down
+std::string_view fieldNameText(int known);    // the same as bytes
+
+// Writes a known name; returns its end. All bytes of the room for it may be overwritten.
+inline constexpr int64_t fieldNameRoom = 24;
+uint8_t *putFieldName(uint8_t *to, int known);
 
 // The normal form as an owned string, shared where the name is known; null where the text is no token.
 coString *tryNormalizeFieldName(std::string_view name);

@@ -577,7 +577,7 @@ private:
     }
 
     void putName(HeaderEntry const &entry) {
-        at = entry.known >= 0 ? co::put(at, fieldNameText(entry.known)) : co::narrowToUtf8(at, entry.name->view());
+        at = entry.known >= 0 ? putFieldName(at, entry.known) : co::narrowToUtf8(at, entry.name->view());
     }
 
     void putJoined(Bytes folded) {
@@ -616,7 +616,7 @@ uint8_t *HeaderTable::encode(uint8_t *to, Bytes contentLengthLine) const {
 int64_t HeaderTable::encodedLength() const {
     HeaderSet const *set = headers.get();
     if (!set) return 0;
-    int64_t bytes = set->text ? set->text->encodedLength : 0;
+    int64_t bytes = fieldNameRoom + (set->text ? set->text->encodedLength : 0);
     for (int64_t i = 0; i < set->used; i++) {
         struct quillMessageHeader const *header = set->entries[i].header;
         for (int64_t k = 0; header && k < header->lines->length; k++)
