@@ -44,11 +44,22 @@ static bstr S(held_t *h, struct coString *s) {
     return r;
 }
 
-static void rd(struct quillMessage *m, access_t *a) {
+/* The headers that a hop changes, as the typed reading decoded them; null for what is absent. */
+typedef struct {
+    struct quillHeaderVia *vias;
+    struct quillHeaderMaxForwards *maxForwards;
+} changed_t;
+
+static void release(changed_t *c) {
+    if (c->vias) quillHeaderViaRelease(c->vias);
+    if (c->maxForwards) quillHeaderMaxForwardsRelease(c->maxForwards);
+}
+
+static void rd(struct quillMessage *m, access_t *a, changed_t *c) {
     held_t h = {{0}, 0};
     memset(a, 0, sizeof *a);
 
-    struct quillHeaderVia *vias = quillHeaderViaTryDecodeFromMessage(m);
+    struct quillHeaderVia *vias = c->vias = quillHeaderViaTryDecodeFromMessage(m);
     struct quillVia *via = vias ? quillHeaderViaTryDecodeViaAt(vias, 0) : NULL;
     if (via) {
         a->via_host = S(&h, quillViaHost(via));
@@ -57,7 +68,6 @@ static void rd(struct quillMessage *m, access_t *a) {
         a->nvia = (long)quillHeaderViaViasLength(vias);
         quillViaRelease(via);
     }
-    if (vias) quillHeaderViaRelease(vias);
 
     struct quillHeaderFrom *from = quillHeaderFromTryDecodeFromMessage(m);
     if (from) {
@@ -94,11 +104,8 @@ static void rd(struct quillMessage *m, access_t *a) {
     }
     if (contacts) quillHeaderContactRelease(contacts);
 
-    struct quillHeaderMaxForwards *maxForwards = quillHeaderMaxForwardsTryDecodeFromMessage(m);
-    if (maxForwards) {
-        a->maxfwd = (long)quillHeaderMaxForwardsMaxForwards(maxForwards);
-        quillHeaderMaxForwardsRelease(maxForwards);
-    }
+    c->maxForwards = quillHeaderMaxForwardsTryDecodeFromMessage(m);
+    if (c->maxForwards) a->maxfwd = (long)quillHeaderMaxForwardsMaxForwards(c->maxForwards);
     struct quillHeaderRoute *routes = quillHeaderRouteTryDecodeFromMessage(m);
     struct quillRoute *route = routes ? quillHeaderRouteTryDecodeRouteAt(routes, 0) : NULL;
     if (route) {
@@ -115,7 +122,9 @@ static void rd(struct quillMessage *m, access_t *a) {
 static int decodeAccess(char const *p, size_t n, access_t *a) {
     struct quillMessage *m = parse(p, n);
     if (!m) return -1;
-    rd(m, a);
+    changed_t c;
+    rd(m, a, &c);
+    release(&c);
     quillMessageRelease(m);
     return 0;
 }
@@ -135,22 +144,20 @@ static long hop(char const *p, size_t n, char *out, size_t cap) {
     access_t a;
     struct quillMessage *m = parse(p, n);
     if (!m) return -1;
-    rd(m, &a);
+    changed_t c;
+    rd(m, &a, &c);
 
-    struct quillHeaderVia *vias = quillHeaderViaTryDecodeFromMessage(m);
     struct quillVia *via = quillViaCreateWithPort(sip20, transport, proxyHost, 5060);
     quillViaSetBranch(&via, proxyBranch);
-    quillHeaderViaPrependVia(&vias, via);
-    quillHeaderViaEncodeToMessage(vias, &m);
+    quillHeaderViaPrependVia(&c.vias, via);
+    quillHeaderViaEncodeToMessage(c.vias, &m);
     quillViaRelease(via);
-    quillHeaderViaRelease(vias);
 
-    struct quillHeaderMaxForwards *maxForwards = quillHeaderMaxForwardsTryDecodeFromMessage(m);
-    if (maxForwards) {
-        quillHeaderMaxForwardsSetMaxForwards(&maxForwards, quillHeaderMaxForwardsMaxForwards(maxForwards) - 1);
-        quillHeaderMaxForwardsEncodeToMessage(maxForwards, &m);
-        quillHeaderMaxForwardsRelease(maxForwards);
+    if (c.maxForwards) {
+        quillHeaderMaxForwardsSetMaxForwards(&c.maxForwards, quillHeaderMaxForwardsMaxForwards(c.maxForwards) - 1);
+        quillHeaderMaxForwardsEncodeToMessage(c.maxForwards, &m);
     }
+    release(&c);
 
     long r = encode(m, out, cap);
     quillMessageRelease(m);
