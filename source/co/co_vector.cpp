@@ -43,6 +43,8 @@ constinit coSort const co___sort_CO_VECTOR{&co___sort_CO_SORT, &co___module,   "
 
 CO_DEFINE_FAMILY(coVector, co___sort_CO_VECTOR)
 
+constinit coVector co::emptyVector{{&co___sort_CO_VECTOR, immortal}, nullptr, 0, 0, 0};
+
 static coVector *makeVector(int64_t capacity) {
     auto *vector = static_cast<coVector *>(co::allocateObject(sizeof(coVector), &co___sort_CO_VECTOR));
     vector->items = capacity ? static_cast<coObj **>(coMemAllocN(capacity, sizeof(coObj *))) : nullptr;

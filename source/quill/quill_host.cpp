@@ -4,10 +4,22 @@
 
 #include <nx/nx_dns.h>
 #include <nx/nx_dns.hpp>
+#include <quill/quill_char.hpp>
 #include <quill/quill_host.h>
 #include <quill/quill_scalar.hpp>
 
-static bool isHost(co::Chars text) { return quill::isWhole(quill___SkipHost, text); }
+// A hostname as most are: nothing but letters, digits, and dots and hyphens between them, no hyphen beside a dot.
+static bool isPlainHostname(co::Chars text) {
+    coChar last = U'.';
+    for (coChar const ch : text) {
+        bool const isOfName = quill::isAlphanum(ch) || (last != U'.' && (ch == U'-' || (ch == U'.' && last != U'-')));
+        if (!isOfName) return false;
+        last = ch;
+    }
+    return quill::isAlphanum(last);
+}
+
+static bool isHost(co::Chars text) { return isPlainHostname(text) || quill::isWhole(quill___SkipHost, text); }
 
 // The host that an internationalised domain name stands for, or null.
 static co::Ref<coString> hostOfDomainName(coString const *name) {

@@ -56,15 +56,10 @@ inline int64_t takeNameEqual(co::Chars text, co::Chars name) {
     return equal ? at + equal : 0;
 }
 
-inline void appendParam(coString **text, co::Chars name) {
-    co::append(text, U";");
-    co::append(text, name);
-}
+inline void appendParam(coString **text, co::Chars name) { co::append(text, {U";", name}); }
 
 inline void appendParam(coString **text, co::Chars name, co::Chars value) {
-    appendParam(text, name);
-    co::append(text, U"=");
-    co::append(text, value);
+    co::append(text, {U";", name, U"=", value});
 }
 
 inline void appendTakenParam(coString **text, co::Chars name, coString *value) {
@@ -151,9 +146,7 @@ template <class T> struct EnclosedParam {
     }
     bool isSet(T const &value) const { return static_cast<bool>(value.*field); }
     void encode(coString **text, T const &value) const {
-        appendParam(text, name, U"\"");
-        co::append(text, (value.*field)->view());
-        co::append(text, U"\"");
+        co::append(text, {U";", name, U"=\"", (value.*field)->view(), U"\""});
     }
 };
 

@@ -61,9 +61,7 @@ struct coString *quill___VersionEncode(struct quillVersion const *version) {
     co::Chars const name = version->protocolName->view();
     co::Chars const number = version->protocolVersion->view();
     coString *text = co::makeString(co::length(name) + 1 + co::length(number));
-    co::append(&text, name);
-    co::append(&text, U"/");
-    co::append(&text, number);
+    co::append(&text, {name, U"/", number});
     return text;
 }
 

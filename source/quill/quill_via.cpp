@@ -2,6 +2,7 @@
 
 #define CO_UNIT "source/quill/quill_via"
 
+#include <algorithm>
 #include <loc/loc_skip.h>
 #include <nx/nx_address.h>
 #include <quill/quill_branch.h>
@@ -197,27 +198,38 @@ static constexpr std::tuple lifted{
     quill::TextParam{texts[branch], quill___SkipBranch, &quillVia::branch},
 };
 
+static void appendVersion(coString **text, quillVersion const *version) {
+    if (quillVersionIsSip20(version)) return co::append(text, U"SIP/2.0");
+    co::Ref<coString> const other(quill___VersionEncode(version));
+    co::append(text, other->view());
+}
+
 // The transport is a token: US-ASCII.
-static void appendTransport(coString **text, quillVia const *via) {
-    co::Ref<coString> transport(via->transport.retained());
-    coStringToUpper(transport.address());
-    co::append(text, transport->view());
+static void appendTransport(coString **text, co::Chars transport) {
+    std::transform(transport.begin(), transport.end(), co::appendSpace(text, co::length(transport)), co::asciiUpper);
+    (*text)->length += co::length(transport);
 }
 
 static void appendSentBy(coString **text, quillVia const *via) {
     co::Ref<coString> const host(quill___HostEncode(via->host.get()));
     co::append(text, host->view());
     if (!via->port) return;
-    co::Ref<coString> const port(quill___PortEncode(via->port.get()));
     co::append(text, U":");
-    co::append(text, port->view());
+    co::appendInt(text, via->port.get(), 10, 0, false, co::Case::lower);
+}
+
+// With room for what most values have, so that their text seldom grows.
+static coString *makeTextFor(quillVia const *via) {
+    constexpr int64_t rest = 64; // version, transport, port, received and rport
+    return co::makeString(rest + via->host->length + (via->branch ? via->branch->length : 0));
 }
 
 struct coString *quill___ViaEncode(struct quillVia const *via) {
     CO_ASSERT_GIVEN(via);
-    coString *text = quill___VersionEncode(via->version.get());
+    coString *text = makeTextFor(via);
+    appendVersion(&text, via->version.get());
     co::append(&text, U"/");
-    appendTransport(&text, via);
+    appendTransport(&text, via->transport->view());
     co::append(&text, U" ");
     appendSentBy(&text, via);
     quill::appendParams(&text, *via, lifted);
