@@ -12,8 +12,8 @@ constexpr Chars from(Chars text, int64_t at) { return {text.data() + at, text.si
 constexpr bool contains(Chars text, coChar wanted) {
     constexpr size_t block = 16;
     while (text.size() >= block) {
-        bool found = false;
-        for (size_t i = 0; i < block; i++) found |= text[i] == wanted;
+        coChar found = 0;
+        for (size_t i = 0; i < block; i++) found |= text[i] == wanted ? ~coChar{0} : 0;
         if (found) return true;
         text.remove_prefix(block);
     }

@@ -107,12 +107,16 @@ int64_t widenAnyBytes(coChar *chars, std::string_view bytes) {
 static coChar scalar(coChar ch) { return ch > 0x10FFFF || (ch >= 0xD800 && ch < 0xE000) ? replacement : ch; }
 
 // Text is measured and narrowed in blocks, since most blocks are ASCII alone.
-static constexpr size_t block = 8;
+static constexpr size_t block = 16;
 
-static bool isAsciiBlock(coChar const *chars) {
+static inline uint64_t bitsOfEight(coChar const *chars) {
     uint64_t words[4];
     std::memcpy(words, chars, sizeof words);
-    return ((words[0] | words[1] | words[2] | words[3]) & 0xFFFFFF80FFFFFF80) == 0;
+    return words[0] | words[1] | words[2] | words[3];
+}
+
+static inline bool isAsciiBlock(coChar const *chars) {
+    return ((bitsOfEight(chars) | bitsOfEight(chars + 8)) & 0xFFFFFF80FFFFFF80) == 0;
 }
 
 // The compiler makes vector instructions of a count that it knows.

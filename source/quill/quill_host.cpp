@@ -4,19 +4,20 @@
 
 #include <nx/nx_dns.h>
 #include <nx/nx_dns.hpp>
-#include <quill/quill_char.hpp>
 #include <quill/quill_host.h>
 #include <quill/quill_scalar.hpp>
+#include <quill/quill_skip.hpp>
 
-// A hostname as most are: nothing but letters, digits, and dots and hyphens between them, no hyphen beside a dot.
+// A hostname as most are: letters and digits with single dots and hyphens between them.
 static bool isPlainHostname(co::Chars text) {
-    coChar last = U'.';
-    for (coChar const ch : text) {
-        bool const isOfName = quill::isAlphanum(ch) || (last != U'.' && (ch == U'-' || (ch == U'.' && last != U'-')));
-        if (!isOfName) return false;
-        last = ch;
+    for (;;) {
+        int64_t const part = quill::span(text, quill::isAlphanum);
+        if (part == 0) return false;
+        text = co::from(text, part);
+        if (text.empty()) return true;
+        if (text[0] != U'.' && text[0] != U'-') return false;
+        text.remove_prefix(1);
     }
-    return quill::isAlphanum(last);
 }
 
 static bool isHost(co::Chars text) { return isPlainHostname(text) || quill::isWhole(quill___SkipHost, text); }
