@@ -182,4 +182,10 @@ uint8_t *narrowToUtf8(uint8_t *bytes, std::u32string_view chars) {
     return narrowEach(bytes, chars);
 }
 
+uint8_t *narrowAscii(uint8_t *__restrict bytes, std::u32string_view ascii) {
+    for (; ascii.size() >= block; ascii.remove_prefix(block), bytes += block) narrowAsciiBlock(bytes, ascii.data());
+    for (coChar const ch : ascii) *bytes++ = static_cast<uint8_t>(ch);
+    return bytes;
+}
+
 } // namespace co

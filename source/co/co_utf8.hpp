@@ -32,4 +32,7 @@ bool isAscii(std::u32string_view chars);
 int64_t utf8Length(std::u32string_view chars);
 uint8_t *narrowToUtf8(uint8_t *bytes, std::u32string_view chars);
 
+// The same for code points that are known to be US-ASCII.
+uint8_t *narrowAscii(uint8_t *bytes, std::u32string_view ascii);
+
 } // namespace co

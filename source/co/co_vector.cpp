@@ -10,10 +10,16 @@
 #include <co/co_vector.hpp>
 #include <cstring>
 
+static coObj **inlineItems(coVector *vector) { return reinterpret_cast<coObj **>(vector + 1); }
+
+static void freeItems(coVector *vector) {
+    if (vector->items != inlineItems(vector)) coMemFree(vector->items);
+}
+
 static void freeVector(coObj *obj) {
     auto *vector = static_cast<coVector *>(obj);
     for (int64_t i = 0; i < vector->length; i++) co::release(vector->at(i));
-    coMemFree(vector->items);
+    freeItems(vector);
     vector->items = co::released<coObj *>();
 }
 
@@ -45,9 +51,12 @@ CO_DEFINE_FAMILY(coVector, co___sort_CO_VECTOR)
 
 constinit coVector co::emptyVector{{&co___sort_CO_VECTOR, immortal}, nullptr, 0, 0, 0};
 
+static constexpr int64_t few = 4; // elements that a vector has room for at first
+
 static coVector *makeVector(int64_t capacity) {
-    auto *vector = static_cast<coVector *>(co::allocateObject(sizeof(coVector), &co___sort_CO_VECTOR));
-    vector->items = capacity ? static_cast<coObj **>(coMemAllocN(capacity, sizeof(coObj *))) : nullptr;
+    auto const size = static_cast<int64_t>(sizeof(coVector)) + capacity * static_cast<int64_t>(sizeof(coObj *));
+    auto *vector = static_cast<coVector *>(co::allocateObject(size, &co___sort_CO_VECTOR));
+    vector->items = inlineItems(vector);
     vector->head = 0;
     vector->length = 0;
     vector->capacity = capacity;
@@ -55,7 +64,7 @@ static coVector *makeVector(int64_t capacity) {
 }
 
 struct coVector *coVectorCreate(void) {
-    return makeVector(0);
+    return makeVector(few);
 }
 
 int64_t coVectorLength(struct coVector const *vector) {
@@ -81,11 +90,11 @@ bool coVectorContainsOnly(struct coVector const *vector, struct coSort const *so
     return true;
 }
 
-// Copy on write: a private vector that shares the elements.
+// Copy on write: a private vector that shares the elements, with room for some more.
 static coVector *writable(coVector **vector) {
     coVector *old = *vector;
     if (co::isUnique(old)) return old;
-    coVector *copy = makeVector(old->length);
+    coVector *copy = makeVector(old->length + few);
     for (int64_t i = 0; i < old->length; i++) copy->items[i] = co::retained(old->at(i));
     copy->length = old->length;
     *vector = copy;
@@ -93,18 +102,31 @@ static coVector *writable(coVector **vector) {
     return copy;
 }
 
-// Makes room for one more element at one end; the array grows by half, so that an addition is amortised constant.
-static void reserve(coVector *vector, bool atFront) {
-    if (atFront ? vector->head > 0 : vector->head + vector->length < vector->capacity) return;
-    int64_t const spare = vector->length / 2 + 4;
-    auto *items = static_cast<coObj **>(coMemAllocN(vector->length + spare, sizeof(coObj *)));
-    int64_t const head = atFront ? spare : 0;
+// The elements to another place of the same array.
+static void moveTo(coVector *vector, int64_t head) {
     if (vector->length)
-        std::memcpy(items + head, vector->items + vector->head, static_cast<size_t>(vector->length) * sizeof(coObj *));
-    coMemFree(vector->items);
+        std::memmove(vector->items + head, vector->items + vector->head,
+                     static_cast<size_t>(vector->length) * sizeof(coObj *));
+    vector->head = head;
+}
+
+static void grow(coVector *vector, int64_t spare, int64_t head) {
+    auto *items = static_cast<coObj **>(coMemAllocN(vector->length + spare, sizeof(coObj *)));
+    std::copy_n(vector->items + vector->head, vector->length, items + head);
+    freeItems(vector);
     vector->items = items;
     vector->head = head;
     vector->capacity = vector->length + spare;
+}
+
+// Makes room for one more element at one end, so that an addition is amortised constant: where half as many elements as
+// there are have room at the other end, that room is divided between both, or else the array grows by as much.
+static void reserve(coVector *vector, bool atFront) {
+    if (atFront ? vector->head > 0 : vector->head + vector->length < vector->capacity) return;
+    int64_t const spare = vector->capacity - vector->length;
+    if (spare > 0 && spare >= vector->length / 2) return moveTo(vector, atFront ? (spare + 1) / 2 : spare / 2);
+    int64_t const more = vector->length / 2 + few;
+    grow(vector, more, atFront ? more : 0);
 }
 
 static void insert(coVector **reference, int64_t index, coObj *taken) {
@@ -187,5 +209,5 @@ void coVectorClear(struct coVector **vector) {
     if (co::isUnique(*vector))
         coVectorDelLeading(vector, (*vector)->length);
     else
-        co::release(std::exchange(*vector, makeVector(0)));
+        co::release(std::exchange(*vector, makeVector(few)));
 }

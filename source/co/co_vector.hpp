@@ -4,7 +4,8 @@
 #include <co/co_obj.hpp>
 #include <co/co_vector.h>
 
-// The elements are items[head] to items[head + length - 1]: both ends can be changed without moving the rest.
+// The elements are items[head] to items[head + length - 1]: both ends can be changed without moving the rest. They follow
+// the object in the same allocation until the vector outgrows it.
 struct coVector : coObj {
     coObj **items;
     int64_t head;

@@ -577,7 +577,7 @@ private:
     }
 
     void putName(HeaderEntry const &entry) {
-        at = entry.known >= 0 ? putFieldName(at, entry.known) : co::narrowToUtf8(at, entry.name->view());
+        at = entry.known >= 0 ? putFieldName(at, entry.known) : co::narrowAscii(at, entry.name->view());
     }
 
     void putJoined(Bytes folded) {

@@ -3,7 +3,6 @@
 #define CO_UNIT "source/quill/quill_message_fragment_encode"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <co/co_buffer.hpp>
 #include <co/co_charset.h>
@@ -45,7 +44,8 @@ private:
     char *end;
 };
 
-// The three texts of a start line, which blanks stand between: those of the fragment, or some that were made of them.
+// The three texts of a start line, which blanks stand between: those of the fragment, or some that were made of them. All
+// but a phrase are ASCII.
 //
 //     Request-Line = Method SP Request-URI SP SIP-Version CRLF
 //     Status-Line  = SIP-Version SP Status-Code SP Reason-Phrase CRLF
@@ -53,28 +53,30 @@ class StartLine {
 public:
     explicit StartLine(quillMessageFragment const *frag) {
         if (quillMessageFragmentIsRequest(frag))
-            texts = {frag->requestMethod->view(), uriOf(frag->requestIri.get()), versionOf(frag->version.get())};
+            set(frag->requestMethod->view(), uriOf(frag->requestIri.get()), versionOf(frag->version.get()));
         else if (quillMessageFragmentIsResponse(frag))
-            texts = {versionOf(frag->version.get()), codeOf(frag->responseStatusCode.get()),
-                     phraseOf(frag->responseReasonPhrase.get())};
+            set(versionOf(frag->version.get()), codeOf(frag->responseStatusCode.get()),
+                phraseOf(frag->responseReasonPhrase.get()));
     }
 
-    int64_t encodedLength() const {
-        if (isAbsent()) return 0;
-        return co::utf8Length(texts[0]) + co::utf8Length(texts[1]) + co::utf8Length(texts[2]) + 4;
-    }
+    int64_t encodedLength() const { return length; }
 
     uint8_t *encode(uint8_t *to) const {
-        if (isAbsent()) return to;
-        to = co::narrowToUtf8(to, texts[0]);
+        if (length == 0) return to;
+        to = co::narrowAscii(to, first);
         *to++ = ' ';
-        to = co::narrowToUtf8(to, texts[1]);
+        to = co::narrowAscii(to, second);
         *to++ = ' ';
-        return co::put(co::narrowToUtf8(to, texts[2]), "\r\n");
+        return co::put(co::narrowToUtf8(to, third), "\r\n");
     }
 
 private:
-    bool isAbsent() const { return texts[0].empty(); }
+    void set(co::Chars one, co::Chars two, co::Chars three) {
+        first = one;
+        second = two;
+        third = three;
+        length = co::length(first) + 1 + co::length(second) + 1 + co::utf8Length(third) + 2;
+    }
 
     // An IRI of ASCII alone is a URI.
     co::Chars uriOf(coString const *iri) {
@@ -100,7 +102,10 @@ private:
         return madePhrase->view();
     }
 
-    std::array<co::Chars, 3> texts;
+    co::Chars first;
+    co::Chars second;
+    co::Chars third;
+    int64_t length = 0; // as bytes, with the line's end; of an absent line 0
     coChar digits[3];
     co::Ref<coString> madeUri;
     co::Ref<coString> madeVersion;

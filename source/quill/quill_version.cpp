@@ -53,6 +53,8 @@ bool quillVersionIsSip(struct quillVersion const *version) {
 }
 
 bool quillVersionIsSip20(struct quillVersion const *version) {
+    CO_ASSERT_GIVEN(version);
+    if (version == quill___VersionSip20) return true; // as of most messages
     return quillVersionIsSip(version) && version->protocolVersion->view() == U"2.0";
 }
 
