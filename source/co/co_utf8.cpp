@@ -125,11 +125,14 @@ static void narrowAsciiBlock(uint8_t *__restrict bytes, coChar const *__restrict
 }
 
 bool isAscii(std::u32string_view chars) {
-    for (; chars.size() >= block; chars.remove_prefix(block))
-        if (!isAsciiBlock(chars.data())) return false;
-    coChar all = 0;
-    for (coChar const ch : chars) all |= ch;
-    return all < 0x80;
+    if (chars.size() < block) {
+        coChar all = 0;
+        for (coChar const ch : chars) all |= ch;
+        return all < 0x80;
+    }
+    for (size_t at = 0; at + block < chars.size(); at += block)
+        if (!isAsciiBlock(chars.data() + at)) return false;
+    return isAsciiBlock(chars.data() + chars.size() - block); // which overlaps the one before
 }
 
 static int64_t lengthOfEach(std::u32string_view chars) {
@@ -142,10 +145,7 @@ static int64_t lengthOfEach(std::u32string_view chars) {
 }
 
 int64_t utf8Length(std::u32string_view chars) {
-    int64_t bytes = 0;
-    for (; chars.size() >= block; chars.remove_prefix(block))
-        bytes += isAsciiBlock(chars.data()) ? static_cast<int64_t>(block) : lengthOfEach(chars.substr(0, block));
-    return bytes + (isAscii(chars) ? static_cast<int64_t>(chars.size()) : lengthOfEach(chars));
+    return isAscii(chars) ? static_cast<int64_t>(chars.size()) : lengthOfEach(chars);
 }
 
 static uint8_t *narrowEach(uint8_t *bytes, std::u32string_view chars) {
@@ -182,10 +182,15 @@ uint8_t *narrowToUtf8(uint8_t *bytes, std::u32string_view chars) {
     return narrowEach(bytes, chars);
 }
 
-uint8_t *narrowAscii(uint8_t *__restrict bytes, std::u32string_view ascii) {
-    for (; ascii.size() >= block; ascii.remove_prefix(block), bytes += block) narrowAsciiBlock(bytes, ascii.data());
-    for (coChar const ch : ascii) *bytes++ = static_cast<uint8_t>(ch);
-    return bytes;
+uint8_t *narrowAscii(uint8_t *bytes, std::u32string_view ascii) {
+    uint8_t *const end = bytes + ascii.size();
+    if (ascii.size() < block) {
+        for (coChar const ch : ascii) *bytes++ = static_cast<uint8_t>(ch);
+        return end;
+    }
+    for (size_t at = 0; at + block < ascii.size(); at += block) narrowAsciiBlock(bytes + at, ascii.data() + at);
+    narrowAsciiBlock(end - block, ascii.data() + ascii.size() - block); // which overlaps the one before
+    return end;
 }
 
 } // namespace co
