@@ -27,7 +27,7 @@ constexpr int64_t fewUnknown = 8; // names that are searched one after the other
 constexpr int64_t usualEntries = 20;
 constexpr uint32_t noEntry = UINT32_MAX;
 
-template <class T> T trimmed(T text) {
+template <class T> inline T trimmed(T text) {
     auto const isBlank = [](auto ch) { return ch == ' ' || ch == '\t'; };
     while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
     while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
@@ -35,7 +35,7 @@ template <class T> T trimmed(T text) {
 }
 
 // What stands before the next line end; the rest stays without both.
-Bytes takeLine(Bytes *rest) {
+inline Bytes takeLine(Bytes *rest) {
     size_t const end = rest->find("\r\n");
     Bytes const line = rest->substr(0, end);
     rest->remove_prefix(end == Bytes::npos ? rest->size() : end + 2);
