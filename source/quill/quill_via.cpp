@@ -198,10 +198,11 @@ static constexpr std::tuple lifted{
     quill::TextParam{texts[branch], quill___SkipBranch, &quillVia::branch},
 };
 
+// With the slash behind it.
 static void appendVersion(coString **text, quillVersion const *version) {
-    if (quillVersionIsSip20(version)) return co::append(text, U"SIP/2.0");
+    if (quillVersionIsSip20(version)) return co::append(text, U"SIP/2.0/");
     co::Ref<coString> const other(quill___VersionEncode(version));
-    co::append(text, other->view());
+    co::append(text, {other->view(), U"/"});
 }
 
 // The transport is a token: US-ASCII.
@@ -210,9 +211,10 @@ static void appendTransport(coString **text, co::Chars transport) {
     (*text)->length += co::length(transport);
 }
 
+// With the blank before it.
 static void appendSentBy(coString **text, quillVia const *via) {
     co::Ref<coString> const host(quill___HostEncode(via->host.get()));
-    co::append(text, host->view());
+    co::append(text, {U" ", host->view()});
     if (!via->port) return;
     co::append(text, U":");
     co::appendInt(text, via->port.get(), 10, 0, false, co::Case::lower);
@@ -228,9 +230,7 @@ struct coString *quill___ViaEncode(struct quillVia const *via) {
     CO_ASSERT_GIVEN(via);
     coString *text = makeTextFor(via);
     appendVersion(&text, via->version.get());
-    co::append(&text, U"/");
     appendTransport(&text, via->transport->view());
-    co::append(&text, U" ");
     appendSentBy(&text, via);
     quill::appendParams(&text, *via, lifted);
     return text;
