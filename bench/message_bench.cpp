@@ -63,8 +63,11 @@ void typedCore(Sample const &sample) { readCore(decoded(sample.bytes.get()).get(
 
 void hop(Sample const &sample) {
     quillMessage *message = decoded(sample.bytes.get()).release();
-    readCore(message);
-    proxyHop(&theProxy, &message);
+    core read;
+    coreRead(message, &read);
+    benchmark::DoNotOptimize(read);
+    proxyHop(&theProxy, &read, &message);
+    coreRelease(&read);
     benchmark::DoNotOptimize(encodedLength(message));
     quillMessageRelease(message);
 }

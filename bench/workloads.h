@@ -24,7 +24,9 @@ enum {
 };
 struct core {
     struct coString *strings[CORE_STRINGS];
-    int64_t viaPort, vias, cseq, maxForwards, routes;
+    int64_t viaPort, viaCount, cseq, maxForwardsLeft, routes;
+    struct quillHeaderVia *vias; /* these two stay at hand: a hop changes them; null where they are absent */
+    struct quillHeaderMaxForwards *maxForwards;
 };
 
 static inline void coreReadVia(struct quillMessage const *msg, struct core *core) {
@@ -34,10 +36,10 @@ static inline void coreReadVia(struct quillMessage const *msg, struct core *core
         core->strings[CORE_VIA_HOST] = quillViaHost(via);
         core->strings[CORE_VIA_BRANCH] = quillViaBranch(via);
         core->viaPort = quillViaPort(via);
-        core->vias = quillHeaderViaViasLength(vias);
+        core->viaCount = quillHeaderViaViasLength(vias);
         quillViaRelease(via);
     }
-    if (vias) quillHeaderViaRelease(vias);
+    core->vias = vias;
 }
 
 static inline void coreReadFrom(struct quillMessage const *msg, struct core *core) {
@@ -88,8 +90,8 @@ static inline void coreReadContact(struct quillMessage const *msg, struct core *
 static inline void coreReadMaxForwards(struct quillMessage const *msg, struct core *core) {
     struct quillHeaderMaxForwards *maxForwards = quillHeaderMaxForwardsTryDecodeFromMessage(msg);
     if (!maxForwards) return;
-    core->maxForwards = quillHeaderMaxForwardsMaxForwards(maxForwards);
-    quillHeaderMaxForwardsRelease(maxForwards);
+    core->maxForwardsLeft = quillHeaderMaxForwardsMaxForwards(maxForwards);
+    core->maxForwards = maxForwards;
 }
 
 static inline void coreReadRoute(struct quillMessage const *msg, struct core *core) {
@@ -104,7 +106,7 @@ static inline void coreReadRoute(struct quillMessage const *msg, struct core *co
 }
 
 static inline void coreInit(struct core *core) {
-    struct core const empty = {{0}, 0, 0, 0, 0, 0};
+    struct core const empty = {{0}, 0, 0, 0, 0, 0, NULL, NULL};
     *core = empty;
 }
 
@@ -124,6 +126,8 @@ static inline void coreRead(struct quillMessage const *msg, struct core *core) {
 static inline void coreRelease(struct core const *core) {
     for (int i = 0; i < CORE_STRINGS; i++)
         if (core->strings[i]) coStringRelease(core->strings[i]);
+    if (core->vias) quillHeaderViaRelease(core->vias);
+    if (core->maxForwards) quillHeaderMaxForwardsRelease(core->maxForwards);
 }
 
 /* What a proxy writes into its Via. */
@@ -146,21 +150,17 @@ static inline void proxyRelease(struct proxy const *proxy) {
     coStringRelease(proxy->branch);
 }
 
-/* A Via in front, one less in Max-Forwards. The message must have a Via. */
-static inline void proxyHop(struct proxy const *proxy, struct quillMessage **msg) {
-    struct quillHeaderVia *vias = quillHeaderViaTryDecodeFromMessage(*msg);
+/* A Via in front, one less in Max-Forwards, of a message whose core was read. It must have a Via. */
+static inline void proxyHop(struct proxy const *proxy, struct core *core, struct quillMessage **msg) {
     struct quillVia *via = quillViaCreateWithPort(proxy->version, proxy->transport, proxy->host, 5060);
     quillViaSetBranch(&via, proxy->branch);
-    quillHeaderViaPrependVia(&vias, via);
-    quillHeaderViaEncodeToMessage(vias, msg);
+    quillHeaderViaPrependVia(&core->vias, via);
+    quillHeaderViaEncodeToMessage(core->vias, msg);
     quillViaRelease(via);
-    quillHeaderViaRelease(vias);
 
-    struct quillHeaderMaxForwards *maxForwards = quillHeaderMaxForwardsTryDecodeFromMessage(*msg);
-    if (!maxForwards) return;
-    quillHeaderMaxForwardsSetMaxForwards(&maxForwards, quillHeaderMaxForwardsMaxForwards(maxForwards) - 1);
-    quillHeaderMaxForwardsEncodeToMessage(maxForwards, msg);
-    quillHeaderMaxForwardsRelease(maxForwards);
+    if (!core->maxForwards) return;
+    quillHeaderMaxForwardsSetMaxForwards(&core->maxForwards, core->maxForwardsLeft - 1);
+    quillHeaderMaxForwardsEncodeToMessage(core->maxForwards, msg);
 }
 
 #endif

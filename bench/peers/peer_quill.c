@@ -34,24 +34,24 @@ static bstr S(struct coString const *s) {
 }
 
 /* The strings of the core stand in the harness's order. */
-static void rd(struct quillMessage *m, access_t *a) {
-    struct core core;
-    coreRead(m, &core);
+static void rd(struct quillMessage *m, struct core *core, access_t *a) {
+    coreRead(m, core);
     memset(a, 0, sizeof *a);
-    for (int i = 0; i < CORE_STRINGS; i++) (&a->via_host)[i] = S(core.strings[i]);
-    a->via_port = (long)core.viaPort;
-    a->nvia = (long)core.vias;
-    a->cseq = (long)core.cseq;
-    a->maxfwd = (long)core.maxForwards;
-    a->nroute = (long)core.routes;
+    for (int i = 0; i < CORE_STRINGS; i++) (&a->via_host)[i] = S(core->strings[i]);
+    a->via_port = (long)core->viaPort;
+    a->nvia = (long)core->viaCount;
+    a->cseq = (long)core->cseq;
+    a->maxfwd = (long)core->maxForwardsLeft;
+    a->nroute = (long)core->routes;
     access_done(a);
-    coreRelease(&core);
 }
 
 static int decodeAccess(char const *p, size_t n, access_t *a) {
     struct quillMessage *m = parse(p, n);
     if (!m) return -1;
-    rd(m, a);
+    struct core core;
+    rd(m, &core, a);
+    coreRelease(&core);
     quillMessageRelease(m);
     return 0;
 }
@@ -71,8 +71,10 @@ static long hop(char const *p, size_t n, char *out, size_t cap) {
     access_t a;
     struct quillMessage *m = parse(p, n);
     if (!m) return -1;
-    rd(m, &a);
-    proxyHop(&proxy, &m);
+    struct core core;
+    rd(m, &core, &a);
+    proxyHop(&proxy, &core, &m);
+    coreRelease(&core);
     long r = encode(m, out, cap);
     quillMessageRelease(m);
     return r;

@@ -82,6 +82,9 @@ int64_t decimalWidth(int64_t value) {
     return width;
 }
 
+// The usual base is a constant, by which the compiler divides with a multiplication.
+uint64_t divided(uint64_t value, uint64_t base) { return base == 10 ? value / 10 : value / base; }
+
 } // namespace
 
 namespace co {
@@ -96,9 +99,10 @@ void appendInt(coString **string, int64_t value, int64_t base, int64_t width, bo
     auto rest = value < 0 ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
     auto const radix = static_cast<uint64_t>(base);
     do {
-        auto const digit = static_cast<coChar>(rest % radix);
+        uint64_t const quotient = divided(rest, radix);
+        auto const digit = static_cast<coChar>(rest - quotient * radix);
         *--first = digit < 10 ? U'0' + digit : ten + digit - 10;
-        rest /= radix;
+        rest = quotient;
     } while (rest);
 
     int64_t const pad = width - (end - first) - (value < 0);

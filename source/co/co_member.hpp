@@ -59,7 +59,7 @@ public:
 
     void set(coString *value) { adopt(co::retained(value)); }
     void adopt(coString *value) {
-        distance = 0;
+        distance = length = 0;
         if (coString *old = std::exchange(string, value)) release(old);
     }
     void clear() { adopt(nullptr); }

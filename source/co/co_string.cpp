@@ -226,6 +226,14 @@ void co::append(coString **string, Chars text) {
     if (old) release(old);
 }
 
+void co::append(coString **string, std::initializer_list<Chars> texts) {
+    int64_t more = 0;
+    for (Chars const text : texts) more += length(text);
+    coString *old = reserve(string, more);
+    for (Chars const text : texts) fill(*string, text);
+    if (old) release(old);
+}
+
 void coStringAppend(struct coString **string, struct coString const *other) {
     CO_ASSERT_REFERENCE(string);
     CO_ASSERT_GIVEN(other);

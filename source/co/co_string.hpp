@@ -5,6 +5,7 @@
 #include <co/co_string.h>
 #include <co/co_utf8.hpp>
 #include <cstring>
+#include <initializer_list>
 #include <string_view>
 
 // One allocation: the code points follow the header.
@@ -43,5 +44,6 @@ coString *makeStringFromUtf8(std::string_view valid);
 // Room for `more` code points behind the string's end, which the caller then fills and counts.
 coChar *appendSpace(coString **string, int64_t more);
 void append(coString **string, Chars text);
+void append(coString **string, std::initializer_list<Chars> texts); // one after the other
 
 } // namespace co

@@ -131,4 +131,8 @@ uint8_t *narrowToUtf8(uint8_t *bytes, std::u32string_view chars) {
     }
 }
 
+bool isAscii(std::u32string_view chars) { return simd::asciiRun(chars) == chars.size(); }
+
+uint8_t *narrowAscii(uint8_t *bytes, std::u32string_view ascii) { return bytes + simd::narrow(bytes, ascii); }
+
 } // namespace co

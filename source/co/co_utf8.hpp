@@ -24,9 +24,15 @@ coChar *widenAscii(coChar *chars, std::string_view ascii);
 // `chars` is null; returns the count of code points.
 int64_t widenAnyBytes(coChar *chars, std::string_view bytes);
 
+// Whether all code points are US-ASCII.
+bool isAscii(std::u32string_view chars);
+
 // The bytes that code points take as UTF-8, and their writing; returns the end of what it wrote. What is no scalar
 // value (a surrogate, or above U+10FFFF) is written as U+FFFD.
 int64_t utf8Length(std::u32string_view chars);
 uint8_t *narrowToUtf8(uint8_t *bytes, std::u32string_view chars);
+
+// The same for code points that are known to be US-ASCII.
+uint8_t *narrowAscii(uint8_t *bytes, std::u32string_view ascii);
 
 } // namespace co

@@ -48,6 +48,8 @@ constinit coSort const co___sort_CO_VECTOR{&co___sort_CO_SORT, &co___module,   "
 
 CO_DEFINE_FAMILY(coVector, co___sort_CO_VECTOR)
 
+constinit coVector co::emptyVector{{&co___sort_CO_VECTOR, immortal}, nullptr, 0, 0, 0, {}};
+
 static coVector *makeVector(int64_t capacity) {
     auto *vector = static_cast<coVector *>(co::allocateObject(sizeof(coVector), &co___sort_CO_VECTOR));
     bool const isFew = capacity <= coVector::fewItems;
@@ -85,7 +87,7 @@ bool coVectorContainsOnly(struct coVector const *vector, struct coSort const *so
     return true;
 }
 
-// Copy on write: a private vector that shares the elements.
+// Copy on write: a private vector that shares the elements, with room for some more.
 static coVector *writable(coVector **vector) {
     coVector *old = *vector;
     if (co::isUnique(old)) return old;

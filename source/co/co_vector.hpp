@@ -21,6 +21,8 @@ extern "C" struct coSort const co___sort_CO_VECTOR;
 
 namespace co {
 
+extern coVector emptyVector; // immortal: for what begins without elements
+
 // Appends and takes over a reference.
 void appendTaken(coVector **vector, coObj *obj);
 

@@ -14,13 +14,6 @@ using co::from;
 
 static bool isIri(coString const *text) { return text->length > 0 && loc::iriLength(text->view()) == text->length; }
 
-static bool isAscii(Chars text) {
-    for (coChar const ch : text) {
-        if (ch >= 128) return false;
-    }
-    return true;
-}
-
 // RFC 3987, 4.1: LRM, RLM, LRE, RLE, PDF, LRO, RLO
 static bool isBidiFormatting(coChar ch) { return ch == 0x200E || ch == 0x200F || (ch >= 0x202A && ch <= 0x202E); }
 
@@ -93,7 +86,7 @@ static coChar *writeEscapes(coChar *to, coChar ch) {
 coString *locTryConvertToUri(coString const *iri) {
     CO_ASSERT_GIVEN(iri);
     if (!isIri(iri)) return nullptr;
-    if (isAscii(iri->view())) return co::retained(iri);
+    if (co::isAscii(iri->view())) return co::retained(iri);
     coString *uri = co::makeString(3 * co::utf8Length(iri->view()));
     coChar *to = uri->chars();
     for (coChar const ch : iri->view()) {

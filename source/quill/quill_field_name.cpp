@@ -236,11 +236,19 @@ FieldName matchFieldName(std::string_view name, char const *end) {
 
 static_assert(std::size(known) == knownFieldNameCount);
 static_assert(known[contentLengthFieldName] == "Content-Length");
+static_assert(fieldNameRoom == longest);
 constinit coString *sharedFieldNames[knownFieldNameCount] = {};
 
 std::string_view fieldNameText(int i) {
     Known const &forms = knownForms[static_cast<size_t>(i)];
     return {reinterpret_cast<char const *>(forms.normal.data()), forms.length};
+}
+
+// A copy of constant length takes a few instructions.
+uint8_t *putFieldName(uint8_t *to, int i) {
+    Known const &forms = knownForms[static_cast<size_t>(i)];
+    std::memcpy(to, forms.normal.data(), fieldNameRoom);
+    return to + forms.length;
 }
 
 coString *tryNormalizeFieldName(std::string_view name) { return tryNormalize(name); }

@@ -26,6 +26,10 @@ extern coString *sharedFieldNames[knownFieldNameCount]; // null before start-up,
 inline coString *fieldNameAt(int known) { return sharedFieldNames[known]; } // borrowed
 std::string_view fieldNameText(int known);                                  // the same as bytes
 
+// Writes a known name; returns its end. All bytes of the room for it may be overwritten.
+inline constexpr int64_t fieldNameRoom = 24;
+uint8_t *putFieldName(uint8_t *to, int known);
+
 // The normal form as an owned string, shared where the name is known; null where the text is no token.
 coString *tryNormalizeFieldName(std::string_view name);
 coString *tryNormalizeFieldName(co::Chars name);

@@ -111,6 +111,14 @@ void quillGenericParamNormalizeValue(struct quillGenericParam **param) {
     own->value.adopt(quillGenericParamValueNormalized(own));
 }
 
+// Takes the value's text over.
+static coString *joined(coString const *name, coString *taken) {
+    co::Ref<coString> const value(taken);
+    coString *text = co::makeString(name->length + 1 + value->length);
+    co::append(&text, {name->view(), U"=", value->view()});
+    return text;
+}
+
 struct coString *quill___GenericParamEncode(struct quillGenericParam const *genericParam) {
     CO_ASSERT_GIVEN(genericParam);
     coString *name = genericParam->name.get();
@@ -118,11 +126,11 @@ struct coString *quill___GenericParamEncode(struct quillGenericParam const *gene
     if (!value) return co::retained(name);
     switch (genericParam->valueType.get()) {
     case QUILL_GENERIC_PARAM_VALUE_TYPE_TOKEN:
-        return coStringCreateFromFormatCstr("%s=%s", -1, name, value);
+        return joined(name, co::retained(value));
     case QUILL_GENERIC_PARAM_VALUE_TYPE_HOST:
-        return coStringCreateFromFormatCstr("%s=%~s", -1, name, quill___HostEncode(value));
+        return joined(name, quill___HostEncode(value));
     case QUILL_GENERIC_PARAM_VALUE_TYPE_QUOTED_STRING:
-        return coStringCreateFromFormatCstr("%s=%~s", -1, name, quill___QuotableStringEncode(value));
+        return joined(name, quill___QuotableStringEncode(value));
     default:
         co___Abort("QUILL_GENERIC_PARAM_VALUE_TYPE not implemented", CO_UNIT, __LINE__, "false");
     }

@@ -174,8 +174,7 @@ void quill::appendGenericParams(coString **text, quillGenericParams const *param
     for (co::DictEntry entry; walk.next(&entry);) {
         if (isAmong(entry.key->view(), without, count)) continue;
         co::Ref<coString> const param(quill___GenericParamEncode(quillGenericParamFrom(entry.value)));
-        co::append(text, U";");
-        co::append(text, param->view());
+        co::append(text, {U";", param->view()});
     }
 }
 

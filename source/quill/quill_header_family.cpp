@@ -1,19 +1,25 @@
 // Typed headers: what all of them share. Contract: quill_header_family.hpp.
 
+#include <quill/quill_field_name.hpp>
 #include <quill/quill_header_family.hpp>
 
 namespace quill {
 
+// The names of typed headers are known: the string that all messages share.
+static struct quillMessageHeader *makeHeader(coString const *name) {
+    return makeMessageHeader(fieldNameAt(knownFieldName(name->view())));
+}
+
 struct quillMessageHeader *makeHeaderOfLine(coString *name, coString *line) {
     co::Ref<coString> const taken(line);
-    struct quillMessageHeader *header = quillMessageHeaderCreate(name);
+    struct quillMessageHeader *header = makeHeader(name);
     quillMessageHeaderAppendLine(&header, taken.get());
     return header;
 }
 
 struct quillMessageHeader *makeHeaderOfLines(coString *name, coVector *texts) {
     co::Ref<coVector> const taken(texts);
-    struct quillMessageHeader *header = quillMessageHeaderCreate(name);
+    struct quillMessageHeader *header = makeHeader(name);
     quillMessageHeaderSetLinesVector(&header, taken.get());
     return header;
 }
@@ -33,7 +39,7 @@ static void appendJoined(coString **line, co::Chars text, co::Chars delimiter) {
 static struct quillMessageHeader *makeHeaderUnlessEmpty(coString *name, coString *line) {
     if (line->length > 0) return makeHeaderOfLine(name, line);
     co::release(line);
-    return quillMessageHeaderCreate(name);
+    return makeHeader(name);
 }
 
 struct quillMessageHeader *makeHeaderOfJoined(coString *name, coVector const *texts, co::Chars delimiter) {

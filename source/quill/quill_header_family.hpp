@@ -34,6 +34,8 @@ enum : int { QUILL_TYPED_HEADERS(QUILL_FIELD) };
 #undef QUILL_FIELD
 } // namespace known
 
+inline constexpr int64_t usualValueLength = 32; // of a single value that is written
+
 // A raw header with one line, which is taken over.
 struct quillMessageHeader *makeHeaderOfLine(coString *name, coString *line);
 
@@ -279,7 +281,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     static struct quillHeader##Type *tryDecodeValue(co::Chars line);                                                   \
     struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        coString *line = coStringCreate();                                                                             \
+        coString *line = co::makeString(quill::usualValueLength);                                                      \
         appendValue(&line, hdr);                                                                                       \
         return quill::makeHeaderOfLine(quill___Cos##Type, line);                                                       \
     }                                                                                                                  \

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <co/co_assert.hpp>
+#include <co/co_buffer.hpp>
 #include <co/co_hash.hpp>
 #include <co/co_memory.h>
 #include <co/co_simd.hpp>
@@ -48,7 +49,7 @@ inline Bytes trimmed(Bytes text) {
 }
 
 // What stands before the next line end; the rest stays without both.
-Bytes takeLine(Bytes *rest) {
+inline Bytes takeLine(Bytes *rest) {
     size_t const end = co::findLineEnd(*rest);
     Bytes const line = rest->substr(0, end);
     rest->remove_prefix(std::min(end + 2, rest->size()));
@@ -317,6 +318,7 @@ public:
     Bytes headers; // what was split
     Bytes rest;    // behind the empty line
     LineIndex index;
+    int64_t encodedLength = 0;
 
 private:
     bool finish(char const *end, char const *next) {
@@ -358,7 +360,10 @@ private:
         line->length = static_cast<uint32_t>(value.size());
         line->next = noLine;
         line->folded = folded && value.find("\r\n") != Bytes::npos;
+        line->plain = usual;
         line->canonical = usual && field.normal;
+        size_t const nameLength = field.known < 0 ? name.size() : fieldNameText(field.known).size();
+        encodedLength += static_cast<int64_t>(nameLength + value.size()) + 4;
         if (field.known < 0) return enterUnknown(name, usual);
         enter(set->find(field.known), fieldNameAt(field.known), field.known);
         return true;
@@ -413,6 +418,7 @@ bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine) {
     text->lineCount = index.count;
     text->byteCount = byteCount;
     text->ascii = chars.chars == byteCount;
+    text->encodedLength = splitter.encodedLength;
     std::copy(index.lines, index.lines + index.count, text->lines());
     std::copy(lines.begin(), lines.end(), text->bytes());
     set->text = text;
@@ -566,103 +572,126 @@ void HeaderTable::removeAll() { headers.clear(); }
 
 namespace {
 
-uint8_t *put(uint8_t *at, Bytes bytes) {
-    std::memcpy(at, bytes.data(), bytes.size());
-    return at + bytes.size();
-}
-
-// Writes lines behind one another; lines that stood behind one another as they are written are copied at once.
+// Writes lines behind one another. What stands in the received bytes as it is written, from a line's start or from its
+// colon up to the next line that does not, is a run and copied at once.
 class LineWriter {
 public:
-    LineWriter(coBuffer **buffer, WireText const *wireText) : buf(buffer), text(wireText) {}
-    ~LineWriter() { flush(); }
+    LineWriter(uint8_t *to, WireText const *wireText) : at(to), text(wireText) {}
 
     void write(HeaderEntry const &entry) {
         if (entry.header) {
-            for (int64_t i = 0; i < entry.header->lines->length; i++)
-                write(entry.name->view(), co::stringAt(entry.header->lines.get(), i)->view());
+            coVector const *lines = entry.header->lines.get();
+            for (int64_t i = 0; i < lines->length; i++) write(entry, co::stringAt(lines, i)->view());
             return;
         }
         for (uint32_t i = entry.first; i != noLine; i = text->lines()[i].next) write(entry, text->lines()[i]);
     }
 
-    void flush() {
-        if (runEnd == runStart) return;
-        co::append(buf, Bytes(text->bytes() + runStart, runEnd - runStart));
-        co::append(buf, "\r\n");
-        runStart = runEnd = 0;
+    // A line in the place of the entry's, whose first one may be the same.
+    void writeInstead(HeaderEntry const &entry, Bytes whole) {
+        if (!entry.header) {
+            WireLine const &line = text->lines()[entry.first];
+            if (line.canonical && Bytes(text->bytes() + line.start, endOf(line) - line.start) == whole)
+                return addToRun(line.start, endOf(line));
+        }
+        write(whole);
+    }
+
+    void write(Bytes whole) {
+        flush();
+        at = co::put(co::put(at, whole), "\r\n");
+    }
+
+    uint8_t *finish() {
+        flush();
+        return at;
     }
 
 private:
+    static constexpr size_t nowhere = SIZE_MAX - 2;
+
+    static size_t endOf(WireLine const &line) { return size_t{line.value} + line.length; }
+
+    void addToRun(size_t start, size_t end) {
+        if (start != runEnd + 2) {
+            flush();
+            runStart = start;
+        }
+        runEnd = end;
+    }
+
+    void flush() {
+        if (runEnd == nowhere) return;
+        at = co::put(co::put(at, Bytes(text->bytes() + runStart, runEnd - runStart)), "\r\n");
+        runEnd = nowhere;
+    }
+
     void write(HeaderEntry const &entry, WireLine const &line) {
-        if (line.canonical) {
-            if (runEnd == runStart || line.start != runEnd + 2) {
-                flush();
-                runStart = line.start;
-            }
-            runEnd = line.value + line.length;
-            return;
-        }
+        if (line.canonical) return addToRun(line.start, endOf(line));
         flush();
-        co::Chars const name = entry.name->view();
-        uint8_t *const start = co::appendSpace(buf, static_cast<int64_t>(name.size() + line.length + 4));
-        uint8_t *end = put(co::narrowToUtf8(start, name), ": ");
-        if (!line.folded) {
-            end = put(end, text->valueOf(line));
-        } else {
-            uint8_t *const value = end;
-            forEachPiece(text->valueOf(line), [&](Bytes piece) {
-                if (end != value) *end++ = ' ';
-                end = put(end, piece);
-            });
-        }
-        end = put(end, "\r\n");
-        (*buf)->length += end - start;
+        putName(entry);
+        if (line.plain) return addToRun(line.value - 2, endOf(line));
+        at = co::put(at, ": ");
+        if (line.folded)
+            putJoined(text->valueOf(line));
+        else
+            at = co::put(at, text->valueOf(line));
+        at = co::put(at, "\r\n");
     }
 
-    void write(co::Chars name, co::Chars value) {
+    void write(HeaderEntry const &entry, co::Chars value) {
         flush();
-        int64_t const most = co::utf8Length(value) + static_cast<int64_t>(name.size()) + 4;
-        uint8_t *const start = co::appendSpace(buf, most);
-        uint8_t *end = put(co::narrowToUtf8(start, name), ": ");
-        end = put(co::narrowToUtf8(end, value), "\r\n");
-        (*buf)->length += end - start;
+        putName(entry);
+        at = co::put(at, ": ");
+        at = co::put(co::narrowToUtf8(at, value), "\r\n");
     }
 
-    coBuffer **buf;
+    void putName(HeaderEntry const &entry) {
+        at = entry.known >= 0 ? putFieldName(at, entry.known) : co::narrowAscii(at, entry.name->view());
+    }
+
+    void putJoined(Bytes folded) {
+        uint8_t *const start = at;
+        forEachPiece(folded, [&](Bytes piece) {
+            if (at != start) *at++ = ' ';
+            at = co::put(at, piece);
+        });
+    }
+
+    uint8_t *at;
     WireText const *text;
-    size_t runStart = 0;
-    size_t runEnd = 0;
+    size_t runStart = nowhere;
+    size_t runEnd = nowhere;
 };
 
 } // namespace
 
-void HeaderTable::encode(coBuffer **buf, co::Chars contentLengthName, int64_t contentLength) const {
+uint8_t *HeaderTable::encode(uint8_t *to, Bytes contentLengthLine) const {
     HeaderSet const *set = headers.get();
-    LineWriter writer(buf, set ? set->text : nullptr);
-    HeaderEntry const *lengthEntry = find(contentLengthName);
+    LineWriter writer(to, set ? set->text : nullptr);
+    HeaderEntry const *lengthEntry = find(contentLengthFieldName);
     for (int64_t i = 0; set && i < set->used; i++) {
         HeaderEntry const &entry = set->entries[i];
         if (!entry.name) continue;
-        if (&entry != lengthEntry) {
+        if (&entry == lengthEntry)
+            writer.writeInstead(entry, contentLengthLine);
+        else
             writer.write(entry);
-            continue;
-        }
-        writer.flush();
-        quill___MessageFragmentEncodeContentLength(buf, contentLength);
     }
-    writer.flush();
-    if (!lengthEntry) quill___MessageFragmentEncodeContentLength(buf, contentLength);
+    if (!lengthEntry) writer.write(contentLengthLine);
+    return writer.finish();
 }
 
+// Lines of the received bytes count even where a header was set in their place: then there is room to spare.
 int64_t HeaderTable::encodedLength() const {
     HeaderSet const *set = headers.get();
     if (!set) return 0;
-    int64_t bytes = set->text ? set->text->byteCount : 0;
-    for (int64_t i = 0; i < set->used; i++)
-        if (struct quillMessageHeader const *header = set->entries[i].header)
-            for (int64_t k = 0; k < header->lines->length; k++)
-                bytes += header->name->length + co::stringAt(header->lines.get(), k)->length + 4;
+    int64_t bytes = fieldNameRoom + (set->text ? set->text->encodedLength : 0);
+    for (int64_t i = 0; i < set->used; i++) {
+        struct quillMessageHeader const *header = set->entries[i].header;
+        for (int64_t k = 0; header && k < header->lines->length; k++)
+            bytes += header->name->length + co::utf8Length(co::stringAt(header->lines.get(), k)->view()) + 4;
+    }
     return bytes;
 }
 

@@ -6,7 +6,6 @@
 // that is set stands in the table as the object it is.
 #pragma once
 
-#include <co/co_buffer.hpp>
 #include <co/co_member.hpp>
 #include <co/co_utf8.hpp>
 #include <co/co_vector.hpp>
@@ -22,7 +21,8 @@ struct WireLine {
     uint32_t length;
     uint32_t next;  // of the same name, noLine for none
     bool folded;    // the value holds line ends, which are to be joined
-    bool canonical; // from the start to the value's end it stands as it is written
+    bool plain;     // from the two bytes before the value, which are colon and blank, it stands as it is written
+    bool canonical; // from the start on
 };
 
 inline constexpr uint32_t noLine = UINT32_MAX;
@@ -32,7 +32,8 @@ struct WireText : coObj {
     static coSort const sort;
     int64_t lineCount;
     int64_t byteCount;
-    bool ascii; // every byte
+    int64_t encodedLength; // of all lines as they are written, at most
+    bool ascii;            // every byte
 
     coChar *widen(coChar *chars, std::string_view bytes) const {
         return ascii ? co::widenAscii(chars, bytes) : co::widenUtf8(chars, bytes);
@@ -75,10 +76,11 @@ public:
     void remove(co::Chars name);
     void removeAll();
 
-    // Writes the lines of all headers, with the line of the content's length in the place of the header of that name,
-    // or behind all others.
-    void encode(coBuffer **buf, co::Chars contentLengthName, int64_t contentLength) const;
-    int64_t encodedLength() const; // about
+    // Writes the lines of all headers, with the line of the content's length, which is given without its end, in the
+    // place of the header of that name, or behind all others. Returns the end of what it wrote, which is no more than
+    // encodedLength() and that line.
+    uint8_t *encode(uint8_t *to, std::string_view contentLengthLine) const;
+    int64_t encodedLength() const;
 
     void init() { headers.init(); }
     void copy(HeaderTable const &source) { headers.copy(source.headers); }

@@ -73,15 +73,10 @@ template <class T> T *makeParametric(co::Chars *line) {
     return value;
 }
 
-inline void appendParam(coString **text, co::Chars name) {
-    co::append(text, U";");
-    co::append(text, name);
-}
+inline void appendParam(coString **text, co::Chars name) { co::append(text, {U";", name}); }
 
 inline void appendParam(coString **text, co::Chars name, co::Chars value) {
-    appendParam(text, name);
-    co::append(text, U"=");
-    co::append(text, value);
+    co::append(text, {U";", name, U"=", value});
 }
 
 inline void appendTakenParam(coString **text, co::Chars name, coString *value) {
@@ -167,9 +162,7 @@ template <class T> struct EnclosedParam {
     }
     bool isSet(T const &value) const { return static_cast<bool>(value.*field); }
     void encode(coString **text, T const &value) const {
-        appendParam(text, name, U"\"");
-        co::append(text, (value.*field).view());
-        co::append(text, U"\"");
+        co::append(text, {U";", name, U"=\"", (value.*field).view(), U"\""});
     }
 };
 

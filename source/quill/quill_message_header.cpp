@@ -2,6 +2,7 @@
 
 #define CO_UNIT "source/quill/quill_message_header"
 
+#include <co/co_scan.hpp>
 #include <co/co_store.h>
 #include <co/co_vector.hpp>
 #include <quill/quill_family.hpp>
@@ -75,7 +76,8 @@ struct coString *quillMessageHeaderNameNormalize(struct coString const *name) {
 
 bool quillMessageHeaderLineOk(struct coString const *line) {
     CO_ASSERT_GIVEN(line);
-    return line->view().find(U"\r\n") == co::Chars::npos;
+    co::Chars const text = line->view();
+    return !co::contains(text, U'\r') || text.find(U"\r\n") == co::Chars::npos;
 }
 
 // Creation and name.
@@ -83,7 +85,7 @@ bool quillMessageHeaderLineOk(struct coString const *line) {
 struct quillMessageHeader *quill::makeMessageHeader(coString *normalName) {
     auto *header = co::make<struct quillMessageHeader>();
     header->name.set(normalName);
-    header->lines.adopt(coVectorCreate());
+    header->lines.set(&co::emptyVector);
     return header;
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <co/co_assert.hpp>
+#include <co/co_scan.hpp>
 #include <loc/loc_iri.hpp>
 #include <quill/quill_display_name.h>
 #include <quill/quill_lifted.hpp>
@@ -47,7 +48,7 @@ template <class T> T *makeAddress(coString *iri) {
 
 // Most URIs are their own IRIs.
 template <class T> void keepIri(T *value, co::Chars uri) {
-    if (uri.find(U'%') == co::Chars::npos)
+    if (!co::contains(uri, U'%'))
         co::keep(value, &T::iri, uri);
     else
         value->iri.adopt(loc::makeIri(uri));

@@ -53,6 +53,8 @@ bool quillVersionIsSip(struct quillVersion const *version) {
 }
 
 bool quillVersionIsSip20(struct quillVersion const *version) {
+    CO_ASSERT_GIVEN(version);
+    if (version == quill___VersionSip20) return true; // as of most messages
     return quillVersionIsSip(version) && version->protocolVersion->view() == U"2.0";
 }
 
@@ -61,9 +63,7 @@ struct coString *quill___VersionEncode(struct quillVersion const *version) {
     co::Chars const name = version->protocolName->view();
     co::Chars const number = version->protocolVersion->view();
     coString *text = co::makeString(co::length(name) + 1 + co::length(number));
-    co::append(&text, name);
-    co::append(&text, U"/");
-    co::append(&text, number);
+    co::append(&text, {name, U"/", number});
     return text;
 }
 

@@ -2,6 +2,7 @@
 
 #define CO_UNIT "source/quill/quill_via"
 
+#include <algorithm>
 #include <loc/loc_skip.h>
 #include <nx/nx_address.h>
 #include <nx/nx_dns.hpp>
@@ -199,29 +200,40 @@ static constexpr std::tuple lifted{
     quill::TextParam{texts[branch], quill___SkipBranch, &quillVia::branch},
 };
 
-// The transport is a token: US-ASCII.
-static void appendTransport(coString **text, quillVia const *via) {
-    co::Ref<coString> transport(via->transport.retained());
-    coStringToUpper(transport.address());
-    co::append(text, transport->view());
+// With the slash behind it.
+static void appendVersion(coString **text, quillVersion const *version) {
+    if (quillVersionIsSip20(version)) return co::append(text, U"SIP/2.0/");
+    co::Ref<coString> const other(quill___VersionEncode(version));
+    co::append(text, {other->view(), U"/"});
 }
 
+// The transport is a token: US-ASCII.
+static void appendTransport(coString **text, co::Chars transport) {
+    std::transform(transport.begin(), transport.end(), co::appendSpace(text, co::length(transport)), co::asciiUpper);
+    (*text)->length += co::length(transport);
+}
+
+// With the blank before it.
 static void appendSentBy(coString **text, quillVia const *via) {
     co::Ref<coString> const kept(via->host.retained());
     co::Ref<coString> const host(quill___HostEncode(kept.get()));
-    co::append(text, host->view());
+    co::append(text, {U" ", host->view()});
     if (!via->port) return;
-    co::Ref<coString> const port(quill___PortEncode(via->port.get()));
     co::append(text, U":");
-    co::append(text, port->view());
+    co::appendInt(text, via->port.get(), 10, 0, false, co::Case::lower);
+}
+
+// With room for what most values have, so that their text seldom grows.
+static coString *makeTextFor(quillVia const *via) {
+    constexpr int64_t rest = 64; // version, transport, port, received and rport
+    return co::makeString(rest + co::length(via->host.view()) + co::length(via->branch.view()));
 }
 
 struct coString *quill___ViaEncode(struct quillVia const *via) {
     CO_ASSERT_GIVEN(via);
-    coString *text = quill___VersionEncode(via->version.get());
-    co::append(&text, U"/");
-    appendTransport(&text, via);
-    co::append(&text, U" ");
+    coString *text = makeTextFor(via);
+    appendVersion(&text, via->version.get());
+    appendTransport(&text, via->transport.view());
     appendSentBy(&text, via);
     quill::appendParams(&text, *via, lifted);
     return text;

@@ -83,6 +83,31 @@ TEST(Utf8, WritesEveryCodePointAsIconvDoes) {
         EXPECT_EQ(narrow({&ch, 1}), "\xEF\xBF\xBD");
 }
 
+// One code point beyond ASCII at every place of texts that are shorter and longer than what is taken at once.
+TEST(Utf8, WritesTextsOfAllLengths) {
+    for (size_t length = 0; length < 70; length++) {
+        std::u32string text;
+        for (size_t i = 0; i < length; i++) text += static_cast<char32_t>(i * 5 % 128);
+        EXPECT_TRUE(co::isAscii(text)) << length;
+        EXPECT_EQ(narrow(text), std::string(text.begin(), text.end())) << length;
+        std::string bytes(length + 2, '#');
+        auto *const first = reinterpret_cast<uint8_t *>(bytes.data()) + 1;
+        EXPECT_EQ(co::narrowAscii(first, text), first + length);
+        EXPECT_EQ(bytes, "#" + std::string(text.begin(), text.end()) + "#") << "and nothing beside it";
+        for (size_t at = 0; at < length; at++) {
+            for (auto const &[ch, utf8] :
+                 {std::pair<char32_t, char const *>{0x80, "\u0080"}, {0x10FFFF, "\U0010FFFF"}}) {
+                std::u32string other = text;
+                other[at] = ch;
+                EXPECT_FALSE(co::isAscii(other)) << at << " of " << length;
+                std::string expected(text.begin(), text.end());
+                EXPECT_EQ(narrow(other), expected.replace(at, 1, utf8)) << at << " of " << length;
+            }
+        }
+    }
+    EXPECT_FALSE(co::isAscii(std::u32string(20, static_cast<char32_t>(0x80000000))));
+}
+
 TEST(Utf8, ReadsEveryCodePointAndRefusesEachBeginning) {
     for (coChar ch = 0; ch <= 0x10FFFF; ch++) {
         if (!isScalar(ch)) continue;

@@ -136,6 +136,30 @@ TEST(Vector, EndsAreCheapToChange) {
                                for (int64_t i = 0; i < size; i++) coVectorDelAt(queue.address(), 0);
                            }),
               test::linear);
+    EXPECT_LT(test::growth(20000,
+                           [&](int64_t size) {
+                               co::Ref<coVector> both(coVectorCreate());
+                               for (int64_t i = 0; i < size; i++) {
+                                   coVectorPrependString(both.address(), element);
+                                   coVectorAppendString(both.address(), element);
+                               }
+                           }),
+              test::linear)
+        << "in turns";
+}
+
+TEST(Vector, TheEmptyOneIsSharedAndStaysEmpty) {
+    co::Ref<coVector> vector(&co::emptyVector);
+    coVectorAppendString(vector.address(), str("a"));
+    EXPECT_EQ(textOf(vector.get()), "[a]");
+    EXPECT_EQ(coVectorLength(&co::emptyVector), 0);
+    co::Ref<coVector> cleared(&co::emptyVector);
+    coVectorClear(cleared.address());
+    coVectorDelLeading(cleared.address(), 0);
+    coVectorPrependString(cleared.address(), str("b"));
+    EXPECT_EQ(textOf(cleared.get()), "[b]");
+    EXPECT_EQ(textOf(&co::emptyVector), "[]");
+    EXPECT_EQ(coVectorCompare(&co::emptyVector, co::Ref<coVector>(coVectorCreate()).get()), 0);
 }
 
 TEST(Vector, BrokenPreconditionsAbort) {

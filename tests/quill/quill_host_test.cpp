@@ -1,6 +1,8 @@
 // Hosts: names, addresses, and internationalised names in both their forms.
+#include <co/co_string.hpp>
 #include <quill/quill_host.h>
 #include <quill/quill_internal.h>
+#include <quill/quill_skip.h>
 #include <support/text.hpp>
 
 using test::str;
@@ -48,6 +50,22 @@ TEST(Host, IsNothingElse) {
                              "\u00fc..de"})
         EXPECT_FALSE(quillHostOk(str(text))) << text;
     EXPECT_FALSE(quillHostOk(str(std::string("a\0", 2))));
+}
+
+// All short texts of what names are made of, by the scanner.
+TEST(Host, IsWhatTheScannerTakes) {
+    constexpr std::string_view letters = "aZ0.-%_[";
+    int hosts = 0;
+    for (size_t length = 1; length <= 5; length++)
+        for (size_t code = 0; code < size_t{1} << 3 * length; code++) {
+            std::u32string text;
+            for (size_t i = 0; i < length; i++) text += static_cast<char32_t>(letters[code >> 3 * i & 7]);
+            bool const whole =
+                quill___SkipHost(text.data(), static_cast<int64_t>(length)) == static_cast<int64_t>(length);
+            EXPECT_EQ(quillHostOk(co::Ref<coString>(co::makeString(text)).get()), whole) << length << " " << code;
+            hosts += whole;
+        }
+    EXPECT_GT(hosts, 1000);
 }
 
 TEST(Host, IsWrittenAsItIsWhereItIsAscii) {

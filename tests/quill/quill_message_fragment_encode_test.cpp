@@ -45,6 +45,138 @@ TEST(QuillMessageFragmentEncode, WritesCanonicalBytes) {
     EXPECT_ABORT(quillMessageFragmentEncode(nullptr), unit, "frag");
 }
 
+TEST(QuillMessageFragmentEncode, RunsOfLinesAreTheirNormalForm) {
+    struct {
+        std::string_view headers;  // read, without the empty line
+        std::string_view expected; // and written, without it
+        char const *why;
+    } const rows[] = {
+        {"Via: a\r\nTo: b\r\nFrom: c\r\n", "Via: a\r\nTo: b\r\nFrom: c\r\nContent-Length: 2\r\n", "a run"},
+        {"Via: a\r\nCall-ID: b\r\nCSeq: 1 A\r\nMin-SE: 9\r\nTo: c\r\n",
+         "Via: a\r\nCall-Id: b\r\nCseq: 1 A\r\nMin-Se: 9\r\nTo: c\r\nContent-Length: 2\r\n", "another letter case"},
+        {"VIA: a\r\nto: b\r\nx-NOTE: c\r\nX-note: d\r\n",
+         "Via: a\r\nTo: b\r\nX-Note: c\r\nX-Note: d\r\nContent-Length: 2\r\n", "of a first, a last and unknown names"},
+        {"v: a\r\nMax-Forwards: 7\r\ni: b\r\nd: c\r\nTo: d\r\n",
+         "Via: a\r\nMax-Forwards: 7\r\nCall-Id: b\r\nRequest-Disposition: c\r\nTo: d\r\nContent-Length: 2\r\n",
+         "compact names"},
+        {"V: a\r\nVia: b\r\nvIA: c\r\nTo: d\r\n", "Via: a\r\nVia: b\r\nVia: c\r\nTo: d\r\nContent-Length: 2\r\n",
+         "one name in three forms"},
+        {"To: a\r\nSubject:b\r\nFrom:  c\r\nVia : d\r\nCseq:\te\r\nDate: f \r\nServer: g\r\n",
+         "To: a\r\nSubject: b\r\nFrom: c\r\nVia: d\r\nCseq: e\r\nDate: f\r\nServer: g\r\nContent-Length: 2\r\n",
+         "blanks around the colon and behind the value"},
+        {"To: a\r\nSubject: b\r\n c\r\nFrom: d\r\n", "To: a\r\nSubject: b c\r\nFrom: d\r\nContent-Length: 2\r\n",
+         "a folded line between others"},
+        {"To: a\r\nSubject: b\r\n \r\n\tc \r\nFrom: d\r\ns:\r\n e\r\n",
+         "To: a\r\nSubject: b c\r\nSubject: e\r\nFrom: d\r\nContent-Length: 2\r\n", "folds with nothing in them"},
+        {"To: a\r\nSubject\r\n : b\r\nFrom: c\r\n", "To: a\r\nSubject: b\r\nFrom: c\r\nContent-Length: 2\r\n",
+         "a fold before the colon"},
+        {"To: a\r\nSubject:\r\nFrom: \r\nVia: b\r\n", "To: a\r\nSubject: \r\nFrom: \r\nVia: b\r\nContent-Length: 2\r\n",
+         "nothing"},
+        {"To: \u00E4\r\nSubject: \u20AC\r\n \U0001F600\r\nf: \u00F6\r\n",
+         "To: \u00E4\r\nSubject: \u20AC \U0001F600\r\nFrom: \u00F6\r\nContent-Length: 2\r\n", "beyond ASCII"},
+        {"To: a\rb\nc: d\r\nVia: e\r\n", "To: a\rb\nc: d\r\nVia: e\r\nContent-Length: 2\r\n", "single CR and LF"},
+        {"Via: a\r\nRoute: b\r\nVia: c\r\nTo: d\r\n", "Via: a\r\nVia: c\r\nRoute: b\r\nTo: d\r\nContent-Length: 2\r\n",
+         "lines of one name come together"},
+        {"To: a", "To: a\r\nContent-Length: 2\r\n", "a last line without an end"},
+        {"Call-ID: a", "Call-Id: a\r\nContent-Length: 2\r\n", "in another letter case"},
+        {"  To: a\r\nVia: b\r\n", "To: a\r\nVia: b\r\nContent-Length: 2\r\n", "blanks before the first line"},
+        {"To: a\r\nContent-Length: 2\r\nVia: b\r\n", "To: a\r\nContent-Length: 2\r\nVia: b\r\n", "the length as it is"},
+        {"Content-Length: 2", "Content-Length: 2\r\n", "at the end"},
+        {"To: a\r\nContent-Length: 1\r\nVia: b\r\n", "To: a\r\nContent-Length: 1\r\nVia: b\r\n", "less than there is"},
+        {"To: a\r\nContent-Length: 02\r\nVia: b\r\n", "To: a\r\nContent-Length: 2\r\nVia: b\r\n", "with a zero"},
+        {"To: a\r\nContent-Length: 2 \r\nVia: b\r\n", "To: a\r\nContent-Length: 2\r\nVia: b\r\n",
+         "with a blank behind"},
+        {"To: a\r\nContent-Length:2\r\nVia: b\r\n", "To: a\r\nContent-Length: 2\r\nVia: b\r\n", "without a blank"},
+        {"To: a\r\nContent-Length:\r\n 2\r\nVia: b\r\n", "To: a\r\nContent-Length: 2\r\nVia: b\r\n", "folded"},
+        {"To: a\r\nCONTENT-length: 2\r\nVia: b\r\n", "To: a\r\nContent-Length: 2\r\nVia: b\r\n", "in another case"},
+        {"To: a\r\nl: 2\r\nVia: b\r\n", "To: a\r\nContent-Length: 2\r\nVia: b\r\n", "compact"},
+        {"To: a\r\nContent-Length: 2\r\nContent-Length: 2\r\nVia: b\r\n", "To: a\r\nContent-Length: 2\r\nVia: b\r\n",
+         "twice"},
+        {"Content-Length: 2\r\nTo: a\r\nContent-Length: 1\r\nVia: b\r\n", "Content-Length: 1\r\nTo: a\r\nVia: b\r\n",
+         "twice, and the last one counts"},
+    };
+    for (auto const &row : rows) {
+        std::string const wire = std::string(row.headers) + (row.headers.ends_with('\n') ? "" : "\r\n") + "\r\nxy";
+        auto const frag = own(quillMessageFragmentTryDecode(buffer(wire).get()));
+        ASSERT_TRUE(frag) << row.why;
+        std::string const body = row.expected.find("Length: 1") == std::string_view::npos ? "xy" : "x";
+        EXPECT_EQ(encoded(frag.get()), std::string(row.expected) + "\r\n" + body) << row.why;
+    }
+    auto const open = own(quillMessageFragmentTryDecode(buffer("To: a\r\nCall-ID: b").get()));
+    EXPECT_EQ(encoded(open.get()), "To: a\r\nCall-Id: b\r\nContent-Length: 0\r\n\r\n") << "no end at all";
+}
+
+// The same by the slow way: raw headers are made of all lines and written one by one.
+std::string linesOf(Fragment const *frag) {
+    auto const body = own(quillMessageFragmentBody(frag));
+    std::string const length =
+        "Content-Length: " + std::to_string(body ? coBufferLength(body.get()) : int64_t{0}) + "\r\n";
+    auto const headers = own(quillMessageFragmentHeadersVector(frag));
+    std::string text;
+    bool hasLength = false;
+    for (int64_t i = 0; i < coVectorLength(headers.get()); i++) {
+        auto const header = own(quillMessageHeaderFrom(coVectorObjAt(headers.get(), i)));
+        std::string const name = utf8(own(quillMessageHeaderName(header.get())).get());
+        if (name == "Content-Length") {
+            text += length;
+            hasLength = true;
+            continue;
+        }
+        for (int64_t k = 0; k < quillMessageHeaderLinesLength(header.get()); k++)
+            text += name + ": " + utf8(own(quillMessageHeaderLineAt(header.get(), k)).get()) + "\r\n";
+    }
+    return hasLength ? text : text + length;
+}
+
+// Header lines of all forms in any order, changed while others hold them.
+TEST(QuillMessageFragmentEncode, RunsAgreeWithTheSlowWay) {
+    constexpr std::string_view names[] = {"Via",    "VIA",    "v",  "Call-ID", "Call-Id",        "i", "CSeq",   "Cseq",
+                                          "X-Note", "x-nOTE", "To", "t",       "Content-Length", "l", "Min-SE", "Route",
+                                          "From"};
+    constexpr std::string_view colons[] = {": ", ": ", ": ", ": ", ":", " : ", ":  ", ":\t", ":\r\n "};
+    constexpr std::string_view values[] = {
+        "a",  "b c", "", "1\r\n 2", "\u00E4\u20AC", "a\r\n\t", "2", "02", "a longer value, <sip:a@b>;tag=1",
+        "2 ", "a\rb"};
+    std::minstd_rand random(20);
+    auto const any = [&](auto const &texts) { return std::string(texts[random() % std::size(texts)]); };
+    auto const check = [](Fragment const *frag) {
+        std::string const wire = encoded(frag);
+        EXPECT_EQ(wire.substr(0, wire.find("\r\n\r\n") + 2), linesOf(frag));
+    };
+    int runs = 0;
+    for (int round = 0; round < 4000; round++) {
+        std::string wire = "To: first\r\n";
+        for (size_t i = random() % 12; i > 0; i--) wire += any(names) + any(colons) + any(values) + "\r\n";
+        auto const read = own(quillMessageFragmentTryDecodeHeaders(buffer(wire).get(), nullptr));
+        if (!read) continue;
+        runs++;
+        check(read.get());
+        std::string const before = encoded(read.get());
+        auto changed = own(co::retained(read.get()));
+        for (size_t i = random() % 5; i > 0; i--) {
+            std::string const name = any(names);
+            switch (random() % 4) {
+            case 0:
+                quillMessageFragmentDelHeaderCstr(changed.address(), name.c_str(), -1);
+                break;
+            case 1:
+                quillMessageFragmentSetHeader(changed.address(), header(name, {"set", "\u00E4 twice"}).get());
+                break;
+            case 2:
+                if (auto const same = own(quillMessageFragmentHeaderCstr(changed.get(), name.c_str(), -1)))
+                    quillMessageFragmentSetHeader(changed.address(), same.get());
+                break;
+            default:
+                quillMessageFragmentSetBody(changed.address(), buffer(std::string(random() % 20, 'x')).get());
+                break;
+            }
+            check(changed.get());
+        }
+        EXPECT_EQ(encoded(read.get()), before) << "what others hold does not change";
+    }
+    EXPECT_GT(runs, 1000);
+}
+
 TEST(QuillMessageFragmentEncode, TheRealLengthIsWritten) {
     auto frag = own(quillMessageFragmentCreate());
     quillMessageFragmentSetHeader(frag.address(), header("l", {"99"}).get());

@@ -135,6 +135,18 @@ TEST(QuillMessageHeader, LinesAreFreeOfCrLf) {
     EXPECT_ABORT(quillMessageHeaderLineOk(nullptr), unit, "line");
 }
 
+TEST(QuillMessageHeader, LinesOfAllLengthsAreFreeOfCrLf) {
+    for (size_t length = 2; length < 70; length++)
+        for (size_t at = 0; at < length; at++) {
+            std::string text(length, 'x');
+            text[at] = '\r';
+            EXPECT_TRUE(quillMessageHeaderLineOk(str(text))) << at << " of " << length;
+            if (at + 1 == length) continue;
+            text[at + 1] = '\n';
+            EXPECT_FALSE(quillMessageHeaderLineOk(str(text))) << at << " of " << length;
+        }
+}
+
 TEST(QuillMessageHeader, CreatesWithoutLines) {
     for (auto const &made :
          {own(quillMessageHeaderCreateCstr("call-IDx", 7)), own(quillMessageHeaderCreateCstr("i", -1)),
