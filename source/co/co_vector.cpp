@@ -99,35 +99,35 @@ static coVector *writable(coVector **vector) {
     return copy;
 }
 
-// Makes room for one more element at one end; the array grows by half, so that an addition is amortised constant.
-[[gnu::noinline]] static void grow(coVector *vector, bool atFront) {
-    int64_t const spare = vector->length / 2 + 4;
+[[gnu::noinline]] static void grow(coVector *vector, int64_t spare, int64_t head) {
     auto *items = static_cast<coObj **>(co::allocateBlock(sizeOfItems(vector->length + spare)));
-    int64_t const head = atFront ? spare : 0;
-    if (vector->length)
-        std::memcpy(items + head, vector->items + vector->head, static_cast<size_t>(vector->length) * sizeof(coObj *));
+    std::copy_n(vector->items + vector->head, vector->length, items + head);
     freeItems(vector);
     vector->items = items;
     vector->head = head;
     vector->capacity = vector->length + spare;
 }
 
-static void reserve(coVector *vector, bool atFront) {
-    if (atFront ? vector->head > 0 : vector->head + vector->length < vector->capacity) return;
-    grow(vector, atFront);
+// The elements to another place of the same array.
+static void moveTo(coVector *vector, int64_t head) {
+    std::memmove(vector->items + head, vector->items + vector->head,
+                 static_cast<size_t>(vector->length) * sizeof(coObj *));
+    vector->head = head;
 }
 
-// Which end moves to make room before the element at `index`: the nearer one, or, of few items, one that has room.
-static bool movesFront(coVector const *vector, int64_t index) {
-    bool const isNearer = index < vector->length - index;
-    if (vector->items != vector->few) return isNearer;
-    bool const hasRoomBehind = vector->head + vector->length < vector->capacity;
-    return vector->head > 0 ? isNearer || !hasRoomBehind : isNearer && !hasRoomBehind;
+// Makes room for one more element at one end, so that an addition is amortised constant: where half as many elements as
+// there are have room at the other end, that room is divided between both, or else the array is doubled.
+static void reserve(coVector *vector, bool atFront) {
+    if (atFront ? vector->head > 0 : vector->head + vector->length < vector->capacity) return;
+    int64_t const spare = vector->capacity - vector->length;
+    if (spare > 0 && spare >= vector->length / 2) return moveTo(vector, atFront ? (spare + 1) / 2 : spare / 2);
+    int64_t const more = vector->length + coVector::fewItems;
+    grow(vector, more, atFront ? more : 0);
 }
 
 static void insert(coVector **reference, int64_t index, coObj *taken) {
     coVector *vector = writable(reference);
-    bool const atFront = movesFront(vector, index);
+    bool const atFront = index < vector->length - index;
     reserve(vector, atFront);
     coObj **first = vector->items + vector->head;
     if (atFront) {

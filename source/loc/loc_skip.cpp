@@ -37,26 +37,32 @@ constexpr CharSet queryChars = pathChars + "?";
 // What belongs to every part and decides nothing: most of an IRI is runs of these.
 constexpr CharSet plain = unreserved + "!$&'()*+=";
 
-constexpr auto isPlain = [] {
-    std::array<bool, 128> members{};
-    for (coChar ch = 0; ch < 128; ch++) members[ch] = plain.has(ch);
-    return members;
-}();
+using Members = std::array<bool, 128>;
 
-int64_t plainRun(Chars text, int64_t from) {
+constexpr Members membersOf(CharSet set) {
+    Members members{};
+    for (coChar ch = 0; ch < 128; ch++) members[ch] = set.has(ch);
+    return members;
+}
+
+constexpr Members isPlain = membersOf(plain);
+constexpr Members isPlainInSip = membersOf(plain + "/[]");
+
+int64_t runOf(Members const &members, Chars text, int64_t from) {
     coChar const *at = text.data() + from;
     coChar const *const end = text.data() + text.size();
-    while (at < end && *at < 128 && isPlain[*at]) at++;
+    while (at < end && *at < 128 && members[*at]) at++;
     return at - text.data();
 }
 
 // What stands in all parts of a SIP URI, whose host may be an IPv6 reference.
-constexpr CharSet sipDelimiters = ":;@/[]";
+constexpr CharSet sipDelimiters = ":;@";
 
 enum class Part { path, query, fragment }; // an authority is the beginning of the path here
 
 // scheme = ALPHA *( ALPHA / DIGIT / "+" / "-" / "." ), and its colon
 int64_t schemeLength(Chars text) {
+    if (text.size() > 4 && co::equal(text.substr(0, 4), U"sip:")) return 4; // as nearly always
     if (text.empty() || !co::asciiAlpha.has(text[0])) return 0;
     size_t at = 1;
     while (at < text.size() && schemeChars.has(text[at])) at++;
@@ -101,7 +107,7 @@ int64_t hierPartLength(Chars text, coChar end) {
     int64_t at = authority ? 2 : 0;
     Part part = Part::path;
     for (;;) {
-        if (!hostBegins) at = plainRun(text, at);
+        if (!hostBegins) at = runOf(isPlain, text, at);
         if (at >= co::length(text)) break;
         Chars const rest = from(text, at);
         int64_t const reference = hostBegins ? ipV6ReferenceLength(rest) : 0;
@@ -123,7 +129,7 @@ int64_t sipPartLength(Chars text, coChar end) {
     int64_t at = 0;
     Part part = Part::path;
     for (;;) {
-        at = plainRun(text, at);
+        at = runOf(isPlainInSip, text, at);
         if (at >= co::length(text)) break;
         Chars const rest = from(text, at);
         coChar const ch = rest[0];

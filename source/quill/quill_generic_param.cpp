@@ -6,6 +6,7 @@
 #include <quill/quill_generic_param.h>
 #include <quill/quill_generic_param_name.h>
 #include <quill/quill_generic_param_value.h>
+#include <quill/quill_lifted.hpp>
 #include <quill/quill_skip.h>
 
 struct quillGenericParam : coObj {
@@ -111,59 +112,69 @@ void quillGenericParamNormalizeValue(struct quillGenericParam **param) {
     own->value.adopt(quillGenericParamValueNormalized(own));
 }
 
-// Takes the value's text over.
-static coString *joined(coString const *name, coString *taken) {
-    co::Ref<coString> const value(taken);
-    coString *text = co::makeString(name->length + 1 + value->length);
-    co::append(&text, {name->view(), U"=", value->view()});
-    return text;
-}
-
-struct coString *quill___GenericParamEncode(struct quillGenericParam const *genericParam) {
-    CO_ASSERT_GIVEN(genericParam);
-    coString *name = genericParam->name.get();
-    coString *value = genericParam->value.get();
-    if (!value) return co::retained(name);
-    switch (genericParam->valueType.get()) {
+void quill::appendGenericParam(coString **text, quillGenericParam const *param) {
+    co::append(text, param->name->view());
+    coString *const value = param->value.get();
+    if (!value) return;
+    co::append(text, U"=");
+    switch (param->valueType.get()) {
     case QUILL_GENERIC_PARAM_VALUE_TYPE_TOKEN:
-        return joined(name, co::retained(value));
+        return co::append(text, value->view());
     case QUILL_GENERIC_PARAM_VALUE_TYPE_HOST:
-        return joined(name, quill___HostEncode(value));
+        return co::append(text, co::Ref<coString>(quill___HostEncode(value))->view());
     case QUILL_GENERIC_PARAM_VALUE_TYPE_QUOTED_STRING:
-        return joined(name, quill___QuotableStringEncode(value));
+        return co::append(text, co::Ref<coString>(quill___QuotableStringEncode(value))->view());
     default:
         co___Abort("QUILL_GENERIC_PARAM_VALUE_TYPE not implemented", CO_UNIT, __LINE__, "false");
     }
 }
 
-// What stands behind EQUAL: the first of token, host and quoted string that matches at all has to be the whole of it.
-static coString *tryDecodeValue(coChar const *chs, int64_t length, int64_t *type) {
-    if (int64_t const token = quill___SkipToken(chs, length)) {
-        *type = QUILL_GENERIC_PARAM_VALUE_TYPE_TOKEN;
-        return token == length ? co::makeString(co::chars(chs, length)) : nullptr;
+struct coString *quill___GenericParamEncode(struct quillGenericParam const *genericParam) {
+    CO_ASSERT_GIVEN(genericParam);
+    if (!genericParam->value) return genericParam->name.retained();
+    coString *text = co::makeString(genericParam->name->length + 1 + genericParam->value->length);
+    quill::appendGenericParam(&text, genericParam);
+    return text;
+}
+
+// What stands behind EQUAL at the start of the text: the first of token, host and quoted string that matches at all. How
+// many code points it is, 0 for none.
+static int64_t takeValue(quillGenericParam *param, co::Chars text) {
+    if (int64_t const token = quill::matched(quill::rules::token(text))) {
+        param->valueType.set(QUILL_GENERIC_PARAM_VALUE_TYPE_TOKEN);
+        param->value.adopt(co::makeString(quill::upTo(text, token)));
+        return token;
     }
-    if (int64_t const host = quill___SkipHost(chs, length)) {
-        *type = QUILL_GENERIC_PARAM_VALUE_TYPE_HOST;
-        return host == length ? quill___HostTryDecode(chs, length) : nullptr;
+    if (int64_t const host = quill::matched(quill::hostLength(text))) {
+        param->valueType.set(QUILL_GENERIC_PARAM_VALUE_TYPE_HOST);
+        param->value.adopt(quill___HostTryDecode(text.data(), host));
+        return param->value ? host : 0;
     }
-    *type = QUILL_GENERIC_PARAM_VALUE_TYPE_QUOTED_STRING;
-    if (quill___SkipQuotedString(chs, length) != length) return nullptr;
-    return quill___QuotableStringTryDecode(chs, length);
+    int64_t const quoted = quill___SkipQuotedString(text.data(), co::length(text));
+    param->valueType.set(QUILL_GENERIC_PARAM_VALUE_TYPE_QUOTED_STRING);
+    if (quoted > 0) param->value.adopt(quill___QuotableStringTryDecode(text.data(), quoted));
+    return param->value ? quoted : 0;
 }
 
 // token [ EQUAL gen-value ]
+struct quillGenericParam *quill::readGenericParam(co::Chars *text) {
+    int64_t const name = matched(rules::token(*text));
+    if (name == 0) return nullptr;
+    co::Ref<quillGenericParam> param(co::make<quillGenericParam>());
+    param->name.adopt(co::makeString(upTo(*text, name)));
+    for (coChar *ch = param->name->chars(); ch < param->name->chars() + name; ch++) *ch = co::asciiLower(*ch);
+    co::Chars rest = from(*text, name);
+    if (int64_t const equal = matched(rules::equal(rest))) {
+        rest = from(rest, equal);
+        int64_t const value = takeValue(param.get(), rest);
+        if (value == 0) return nullptr;
+        rest = from(rest, value);
+    }
+    *text = rest;
+    return param.take();
+}
+
 struct quillGenericParam *quill___GenericParamTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    int64_t const nameLength = quill___SkipToken(chs, length);
-    if (nameLength == 0) return nullptr;
-    co::Ref<coString> const name(co::makeString(co::chars(chs, nameLength)));
-    if (nameLength == length) return quillGenericParamCreate(name.get());
-
-    int64_t const equal = quill___SkipEqual(chs + nameLength, length - nameLength);
-    if (equal == 0) return nullptr;
-    int64_t const at = nameLength + equal;
-    int64_t type = -1;
-    co::Ref<coString> const value(tryDecodeValue(chs + at, length - at, &type));
-    if (!value) return nullptr;
-    return quillGenericParamCreateWithValue(name.get(), type, value.get());
+    return quill::tryReadWhole(co::chars(chs, length), quill::readGenericParam);
 }

@@ -173,17 +173,17 @@ void quill::appendGenericParams(coString **text, quillGenericParams const *param
     co::DictWalk walk(params->params.get());
     for (co::DictEntry entry; walk.next(&entry);) {
         if (isAmong(entry.key->view(), without, count)) continue;
-        co::Ref<coString> const param(quill___GenericParamEncode(quillGenericParamFrom(entry.value)));
-        co::append(text, {U";", param->view()});
+        co::append(text, U";");
+        appendGenericParam(text, quillGenericParamFrom(entry.value));
     }
 }
 
 int64_t quill::takeGenericParam(quillGenericParams **params, co::Chars text) {
-    int64_t const count = quill___SkipGenericParam(text.data(), co::length(text));
-    co::Ref<quillGenericParam> const param(quill___GenericParamTryDecode(text.data(), count));
+    co::Chars rest = text;
+    co::Ref<quillGenericParam> const param(readGenericParam(&rest));
     if (!param) return 0;
     setParam(co::writable(params), param.get());
-    return count;
+    return co::length(text) - co::length(rest);
 }
 
 struct coString *quill___GenericParamsEncode(struct quillGenericParams const *genericParams) {

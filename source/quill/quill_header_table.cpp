@@ -78,6 +78,7 @@ struct HeaderSet : coObj {
     uint32_t *slots;  // of other names, open addressing; null while they are few
     int64_t slotMask; // their number is a power of two
     bool counts;      // some entry holds a reference
+    bool hashed;      // entries of other names have their hashes
     uint32_t placeOfKnown[knownFieldNameCount];
 
     HeaderEntry *inlineEntries() { return reinterpret_cast<HeaderEntry *>(this + 1); }
@@ -87,6 +88,7 @@ struct HeaderSet : coObj {
     uint32_t find(co::Chars name, int known) const { return known >= 0 ? find(known) : findUnknown(name); }
     HeaderEntry &add(coString *name, int known); // without lines; takes over a reference to the name if it is unknown
     void remove(uint32_t place);
+    void copyFrom(HeaderSet const &source); // into a new set with room for all its entries
 
 private:
     void grow();
@@ -114,7 +116,7 @@ static HeaderSet *makeHeaderSet(int64_t capacity) {
     set->capacity = capacity;
     set->slots = nullptr;
     set->slotMask = 0;
-    set->counts = false;
+    set->counts = set->hashed = false;
     std::fill(std::begin(set->placeOfKnown), std::end(set->placeOfKnown), noEntry);
     return set;
 }
@@ -142,13 +144,16 @@ static void freeHeaderSet(coObj *obj) {
 constinit coSort const HeaderSet::sort{
     &co___sort_CO_SORT, &quill___module, "QUILL_HEADER_SET", freeHeaderSet, nullptr, nullptr, 0, sizeOfHeaderSet};
 
+static uint32_t hashOf(co::Chars name) { return static_cast<uint32_t>(co::hash(name)); }
+
 uint32_t HeaderSet::findUnknown(co::Chars name) const {
     if (unknown == 0) return noEntry;
     if (slots) {
-        for (auto slot = static_cast<int64_t>(co::hash(name)) & slotMask; slots[slot] != noEntry;
-             slot = (slot + 1) & slotMask)
-            if (HeaderEntry const &entry = entries[slots[slot]]; entry.name && entry.name->view() == name)
-                return slots[slot];
+        uint32_t const hash = hashOf(name);
+        for (int64_t slot = hash & slotMask; slots[slot] != noEntry; slot = (slot + 1) & slotMask) {
+            HeaderEntry const &entry = entries[slots[slot]];
+            if (entry.hash == hash && entry.name && entry.name->view() == name) return slots[slot];
+        }
         return noEntry;
     }
     for (int64_t i = 0; i < used; i++)
@@ -158,7 +163,7 @@ uint32_t HeaderSet::findUnknown(co::Chars name) const {
 
 // Gaps keep their slots until all are indexed anew: a search goes on behind them.
 void HeaderSet::index(uint32_t place) {
-    auto slot = static_cast<int64_t>(co::hash(entries[place].name->view())) & slotMask;
+    int64_t slot = entries[place].hash & slotMask;
     while (slots[slot] != noEntry) slot = (slot + 1) & slotMask;
     slots[slot] = place;
 }
@@ -172,8 +177,13 @@ void HeaderSet::indexAll() {
     slots = static_cast<uint32_t *>(coMemAllocN(slotCount, sizeof(uint32_t)));
     std::fill(slots, slots + slotCount, noEntry);
     slotMask = slotCount - 1;
-    for (int64_t i = 0; i < used; i++)
-        if (entries[i].name && entries[i].known < 0) index(static_cast<uint32_t>(i));
+    for (int64_t i = 0; i < used; i++) {
+        HeaderEntry &entry = entries[i];
+        if (!entry.name || entry.known >= 0) continue;
+        if (!hashed) entry.hash = hashOf(entry.name->view());
+        index(static_cast<uint32_t>(i));
+    }
+    hashed = true;
 }
 
 void HeaderSet::grow() {
@@ -188,6 +198,7 @@ void HeaderSet::grow() {
 void HeaderSet::indexLast() {
     unknown++;
     counts = true;
+    if (hashed) entries[used - 1].hash = hashOf(entries[used - 1].name->view());
     if (slots ? unknown * 2 > slotMask : unknown > fewUnknown)
         indexAll();
     else if (slots)
@@ -237,22 +248,26 @@ void HeaderSet::closeGaps() {
     indexAll();
 }
 
+void HeaderSet::copyFrom(HeaderSet const &source) {
+    text = co::retained(source.text);
+    counts = source.counts;
+    hashed = source.hashed;
+    std::copy(source.entries, source.entries + source.used, entries);
+    used = source.used;
+    length = source.length;
+    for (int64_t i = 0; counts && i < used; i++) {
+        if (entries[i].known < 0 && entries[i].name) co::retain(entries[i].name);
+        if (entries[i].header) co::retain(entries[i].header);
+    }
+    closeGaps();
+}
+
 // Copy on write.
 static HeaderSet *writable(co::Slot<HeaderSet> *slot) {
     HeaderSet *old = slot->get();
     if (old && co::isUnique(old)) return old;
-    HeaderSet *own = makeHeaderSet(old ? old->length + 2 : 8);
-    if (old) {
-        own->text = co::retained(old->text);
-        own->counts = old->counts;
-        for (int64_t i = 0; i < old->used; i++) {
-            HeaderEntry const &entry = old->entries[i];
-            if (!entry.name) continue;
-            if (entry.known < 0) co::retain(entry.name);
-            if (entry.header) co::retain(entry.header);
-            own->add(entry.name, entry.known) = entry;
-        }
-    }
+    HeaderSet *own = makeHeaderSet(old ? old->used + 2 : 8);
+    if (old) own->copyFrom(*old);
     slot->adopt(own);
     return own;
 }
@@ -518,7 +533,7 @@ co::Chars Lines::widen(uint32_t index) {
 
 int64_t Lines::room() const {
     constexpr int64_t few = 8;
-    constexpr int64_t most = 4096;
+    constexpr int64_t most = 1024;
     int64_t length = 0;
     if (total > few) return 0;
     for (int64_t i = 0; strings && i < total; i++) length += co::stringAt(strings, i)->length;

@@ -55,6 +55,7 @@ struct HeaderEntry {
     uint32_t last;
     uint32_t count;
     int32_t known; // the number of a known name, whose string is the shared one and not counted; or -1
+    uint32_t hash; // of a name that is not known, once there are many of them
 };
 
 // A member of the fragment like a co::Slot: copies share, changes make private.

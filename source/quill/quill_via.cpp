@@ -266,19 +266,30 @@ bool takePort(quillVia *via, quill::Reader *reader) {
 
 } // namespace
 
-// protocol-name SLASH protocol-version SLASH transport LWS host [ COLON port ] *( SEMI via-params )
+// protocol-name SLASH protocol-version SLASH; nearly always the same
+static quillVersion *takeVersion(quill::Reader *reader) {
+    constexpr co::Chars usual = U"SIP/2.0/";
+    if (co::equal(reader->rest.substr(0, usual.size()), usual)) {
+        reader->rest.remove_prefix(usual.size() - 1);
+        reader->take(quill::rules::slash);
+        return quillVersionCreateSip20();
+    }
+    co::Chars const version = reader->take(quill::rules::version);
+    reader->take(quill::rules::slash);
+    return reader->failed ? nullptr : quill___VersionTryDecode(version.data(), co::length(version));
+}
+
+// sent-protocol LWS sent-by *( SEMI via-params ); sent-by = host [ COLON port ]
 struct quillVia *quill::readVia(co::Chars *text) {
     co::Chars line = *text;
     co::Ref<quillVia> via(makeParametric<quillVia>(&line));
     Reader reader{line};
-    co::Chars const version = reader.take(rules::version);
-    reader.take(rules::slash);
+    via->version.adopt(takeVersion(&reader));
     co::Chars const transport = reader.take(rules::token);
     reader.take(rules::lws);
-    if (reader.failed || !takeHost(via.get(), &reader) || !takePort(via.get(), &reader)) return nullptr;
-    via->version.adopt(quill___VersionTryDecode(version.data(), co::length(version)));
+    if (reader.failed || !via->version) return nullptr;
+    if (!takeHost(via.get(), &reader) || !takePort(via.get(), &reader)) return nullptr;
     co::keepLower(via.get(), &quillVia::transport, transport);
-    if (!via->version) return nullptr;
     *text = from(*text, co::length(line) - co::length(readParams(via.get(), reader.rest, lifted)));
     return via.take();
 }
