@@ -3,6 +3,9 @@
 
 #include <co/co_object.h>
 
+// Cold: what leads there stands apart from the code that runs.
+extern "C" [[gnu::cold]] void co___Abort(char const *message, char const *file, int64_t line, char const *condition);
+
 // Every unit says `#define CO_UNIT "source/<directory>/<unit>"` before it uses one of these.
 //
 // The text is given beside the condition, not made from it: it is part of the interface, blanks included, and must
