@@ -6,6 +6,7 @@
 #include <loc/loc_iri.h>
 #include <loc/loc_iri.hpp>
 #include <loc/loc_skip.hpp>
+#include <quill/quill_display_name.h>
 #include <quill/quill_name_addr.hpp>
 #include <quill/quill_skip.h>
 
@@ -31,6 +32,12 @@ int64_t measureNameAddr(co::Chars text, Bare bare, NameAddr *address) {
     int64_t const uri = measure(quill___SkipAddrSpec, text);
     address->uri = upTo(text, uri);
     return uri;
+}
+
+coString *decodeDisplayName(co::Chars written) {
+    coString *displayName = quill___DisplayNameTryDecode(written.data(), co::length(written));
+    CO_ASSERT(displayName, "displayName"); // what the scanner takes can be read
+    return displayName;
 }
 
 // In quotes without escapes, or one token: several have their blanks between them made one each.

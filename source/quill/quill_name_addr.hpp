@@ -4,10 +4,8 @@
 //     addr-spec = URI without header parameters
 #pragma once
 
-#include <co/co_assert.hpp>
 #include <co/co_scan.hpp>
 #include <loc/loc_iri.hpp>
-#include <quill/quill_display_name.h>
 #include <quill/quill_lifted.hpp>
 
 namespace quill {
@@ -28,6 +26,9 @@ int64_t takeBracketedUri(co::Chars text, co::Chars *uri);
 
 // The text of a display name that says the same when it stands without quotes; false where it must be decoded.
 bool isPlainDisplayName(co::Chars written, co::Chars *plain);
+
+// What a display name says that the scanner took.
+coString *decodeDisplayName(co::Chars written);
 
 // The URI in angle brackets.
 void appendBracketedIri(coString **text, co::TextSlot const &iri);
@@ -56,8 +57,7 @@ template <class T> void keepIri(T *value, co::Chars uri) {
 
 template <class T> void keepDisplayName(T *value, co::Chars written) {
     if (co::Chars plain; isPlainDisplayName(written, &plain)) return co::keep(value, &T::displayName, plain);
-    value->displayName.adopt(quill___DisplayNameTryDecode(written.data(), co::length(written)));
-    CO_ASSERT(value->displayName, "displayName"); // what the scanner takes can be read
+    value->displayName.adopt(decodeDisplayName(written));
 }
 
 template <class T> void keepNameAddr(T *value, NameAddr const &address) {
