@@ -13,8 +13,9 @@ struct coString : coObj {
     int64_t length;
     int64_t capacity;
 
+    // Negative, which is refused, for what is too much.
     static constexpr int64_t sizeFor(int64_t room) {
-        return static_cast<int64_t>(sizeof(coObj) + 2 * sizeof(int64_t)) + room * static_cast<int64_t>(sizeof(coChar));
+        return static_cast<int64_t>(sizeof(coObj) + 2 * sizeof(int64_t) + static_cast<uint64_t>(room) * sizeof(coChar));
     }
     int64_t size() const { return sizeFor(capacity); } // of its memory, in bytes
     coChar *chars() { return reinterpret_cast<coChar *>(this + 1); }

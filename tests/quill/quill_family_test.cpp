@@ -11,6 +11,10 @@
 #include <support/cost.hpp>
 #include <vector>
 
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+extern "C" int __sanitizer_get_ownership(void const volatile *mem); // of the sanitizers' allocator
+#endif
+
 extern "C" char const __executable_start; // of the linker: where the program's image begins and ends
 extern "C" char const end;
 
@@ -102,12 +106,21 @@ template <class T> coObj *make(std::string_view utf8) { return generic(decode<T>
 
 std::vector<coObj *> none(coObj const *) { return {}; }
 
+// Whether a block of the heap begins there.
+bool isOnHeap(char const *mem) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    return __sanitizer_get_ownership(mem);
+#else
+    return sizeOf(mem) > 0;
+#endif
+}
+
 // Whether a word of an object is a reference: neither a number nor what padding happens to hold.
 bool isReference(uint64_t word) {
     if (word % 8 != 0 || word < uint64_t{1} << 32 || word >= uint64_t{1} << 47) return false;
     auto const *mem = reinterpret_cast<char const *>(word); // NOLINT(performance-no-int-to-ptr)
     bool const isStatic = mem >= &__executable_start && mem < &end;
-    return isStatic || !countsHeap() || sizeOf(mem) > 0; // a sanitizer fills padding
+    return isStatic || isOnHeap(mem);
 }
 
 std::vector<size_t> slotsOf(coObj const *obj) {
