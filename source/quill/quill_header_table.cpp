@@ -544,8 +544,7 @@ int64_t Lines::room() const {
 bool Lines::next(co::Chars *line) {
     if (strings) {
         if (place >= strings->length) return false;
-        current = co::stringAt(strings, place++);
-        *line = current->view();
+        *line = co::stringAt(strings, place++)->view();
         return true;
     }
     if (!text || place == noLine) return false;

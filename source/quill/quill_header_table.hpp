@@ -111,8 +111,6 @@ public:
     bool next(co::Chars *line);
     bool last(co::Chars *line);
     void restart() { place = firstPlace; }
-    // The string of the line that was read last, borrowed; null for a line of the received bytes.
-    coString *string() const { return current; }
 
 private:
     static constexpr int64_t usualLength = 256;
@@ -122,7 +120,6 @@ private:
 
     coVector const *strings = nullptr; // of a raw header, or else
     WireText const *text = nullptr;    // the received bytes
-    coString *current = nullptr;
     uint32_t place = 0;
     uint32_t firstPlace = 0;
     uint32_t lastPlace = 0;
