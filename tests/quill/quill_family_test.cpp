@@ -143,7 +143,7 @@ std::vector<coObj *> allMembers(coObj const *obj) {
 std::vector<coObj *> listMembers(coObj const *obj) {
     auto *const *words = reinterpret_cast<coObj *const *>(obj + 1);
     std::vector<coObj *> members;
-    for (size_t slot : {1, 2})
+    for (size_t slot : {size_t{1}, size_t{2}})
         if (words[slot]) members.push_back(co::retained(words[slot]));
     return members;
 }

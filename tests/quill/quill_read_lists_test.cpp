@@ -186,7 +186,7 @@ TEST_P(QuillReadList, ReadsWhatTheScannersRead) {
 // Few elements are pieces of the line, many are strings; the same is read of both, and of copies that outlive them.
 TEST_P(QuillReadList, HoldsFewAndManyElements) {
     std::string const element = list.begins[0] + ";x=y";
-    for (size_t n : {1, 7, 8, 9, 20, 200}) {
+    for (size_t n : std::initializer_list<size_t>{1, 7, 8, 9, 20, 200}) {
         for (bool oneLine : {true, false}) {
             std::string joined = element;
             for (size_t i = 1; i < n; i++) joined += ", " + element;
