@@ -6,21 +6,8 @@
 #include <nx/nx_dns.hpp>
 #include <quill/quill_host.h>
 #include <quill/quill_scalar.hpp>
-#include <quill/quill_skip.hpp>
 
-// A hostname as most are: letters and digits with single dots and hyphens between them.
-static bool isPlainHostname(co::Chars text) {
-    for (;;) {
-        int64_t const part = quill::span(text, quill::isAlphanum);
-        if (part == 0) return false;
-        text = co::from(text, part);
-        if (text.empty()) return true;
-        if (text[0] != U'.' && text[0] != U'-') return false;
-        text.remove_prefix(1);
-    }
-}
-
-static bool isHost(co::Chars text) { return isPlainHostname(text) || quill::isWhole(quill___SkipHost, text); }
+static bool isHost(co::Chars text) { return quill::isWhole(quill___SkipHost, text); }
 
 // The host that an internationalised domain name stands for, or null.
 static co::Ref<coString> hostOfDomainName(coString const *name) {
