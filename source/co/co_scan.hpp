@@ -8,26 +8,6 @@ namespace co {
 // What follows the first `at` code points.
 constexpr Chars from(Chars text, int64_t at) { return {text.data() + at, text.size() - static_cast<size_t>(at)}; }
 
-// Whether one of 16 code points is the wanted one.
-inline bool isAmongSixteen(coChar const *chars, coChar wanted) {
-    using Four [[gnu::vector_size(16)]] = coChar;
-    Four four[4];
-    std::memcpy(four, chars, sizeof four);
-    auto const found = (four[0] == wanted) | (four[1] == wanted) | (four[2] == wanted) | (four[3] == wanted);
-    uint64_t halves[2];
-    std::memcpy(halves, &found, sizeof halves);
-    return (halves[0] | halves[1]) != 0;
-}
-
-// Whether a code point is in a text, where it seldom is. The last block overlaps the one before.
-inline bool contains(Chars text, coChar wanted) {
-    constexpr size_t block = 16;
-    if (text.size() < block) return text.find(wanted) != Chars::npos;
-    for (size_t at = 0; at + block < text.size(); at += block)
-        if (isAmongSixteen(text.data() + at, wanted)) return true;
-    return isAmongSixteen(text.data() + text.size() - block, wanted);
-}
-
 // A set of US-ASCII characters, to be written as the grammars do: `alphanum + "-.!%*_+`'~"`.
 class CharSet {
 public:

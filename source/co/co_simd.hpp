@@ -63,6 +63,13 @@ inline size_t asciiRun(std::u32string_view text) {
     return count;
 }
 
+// Whether a code point is in a text.
+inline bool contains(std::u32string_view text, coChar wanted) {
+    for (coChar const ch : text)
+        if (ch == wanted) return true;
+    return false;
+}
+
 // US-ASCII to code points.
 inline void widen(coChar *chars, std::string_view ascii) {
     for (char const byte : ascii) *chars++ = static_cast<uint8_t>(byte);
@@ -109,6 +116,10 @@ using StepMask = uint64_t;
 inline size_t first(StepMask mask) { return static_cast<size_t>(std::countr_zero(mask)); }
 inline StepMask withoutFirst(StepMask mask) { return mask & (mask - 1); }
 
+inline Block equalChars(Block fourChars, coChar wanted) {
+    return _mm_cmpeq_epi32(fourChars, _mm_set1_epi32(static_cast<int>(wanted)));
+}
+
 inline void widenOnce(coChar *chars, char const *ascii) {
     Block const zero = _mm_setzero_si128();
     Block const pairs = _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<__m128i const *>(ascii)), zero);
@@ -146,6 +157,10 @@ using StepMask = Mask;
 
 inline StepMask equalInStep(char const *at, char wanted) { return highBits(equal(load(at), wanted)); }
 inline StepMask withoutFirst(StepMask mask) { return mask & ~(StepMask{0xF} << std::countr_zero(mask)); }
+
+inline Block equalChars(Block fourChars, coChar wanted) {
+    return vreinterpretq_u8_u32(vceqq_u32(vreinterpretq_u32_u8(fourChars), vdupq_n_u32(wanted)));
+}
 
 inline void widenOnce(coChar *chars, char const *ascii) {
     uint16x8_t const pairs = vmovl_u8(vld1_u8(reinterpret_cast<uint8_t const *>(ascii)));
@@ -248,6 +263,19 @@ inline size_t narrow(uint8_t *bytes, std::u32string_view text) {
         narrowOnce(bytes + at, low, high);
     }
     return at + scalar::narrow(bytes + at, text.substr(at));
+}
+
+// The last step overlaps the one before it.
+inline bool contains(std::u32string_view text, coChar wanted) {
+    constexpr size_t step = 16;
+    if (text.size() < step) return scalar::contains(text, wanted);
+    auto const isAt = [&](size_t at) {
+        auto const four = [&](size_t i) { return equalChars(load(text.data() + at + i), wanted); };
+        return highBits(either(either(four(0), four(4)), either(four(8), four(12)))) != 0;
+    };
+    for (size_t at = 0; at + step < text.size(); at += step)
+        if (isAt(at)) return true;
+    return isAt(text.size() - step);
 }
 
 } // namespace co::simd

@@ -2,7 +2,7 @@
 
 #define CO_UNIT "source/quill/quill_message_header"
 
-#include <co/co_scan.hpp>
+#include <co/co_simd.hpp>
 #include <co/co_store.h>
 #include <co/co_vector.hpp>
 #include <quill/quill_family.hpp>
@@ -77,7 +77,7 @@ struct coString *quillMessageHeaderNameNormalize(struct coString const *name) {
 bool quillMessageHeaderLineOk(struct coString const *line) {
     CO_ASSERT_GIVEN(line);
     co::Chars const text = line->view();
-    return !co::contains(text, U'\r') || text.find(U"\r\n") == co::Chars::npos;
+    return !co::simd::contains(text, U'\r') || text.find(U"\r\n") == co::Chars::npos;
 }
 
 // Creation and name.

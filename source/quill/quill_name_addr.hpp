@@ -4,7 +4,7 @@
 //     addr-spec = URI without header parameters
 #pragma once
 
-#include <co/co_scan.hpp>
+#include <co/co_simd.hpp>
 #include <loc/loc_iri.hpp>
 #include <quill/quill_lifted.hpp>
 
@@ -49,7 +49,7 @@ template <class T> T *makeAddress(coString *iri) {
 
 // Most URIs are their own IRIs.
 template <class T> void keepIri(T *value, co::Chars uri) {
-    if (!co::contains(uri, U'%'))
+    if (!co::simd::contains(uri, U'%'))
         co::keep(value, &T::iri, uri);
     else
         value->iri.adopt(loc::makeIri(uri));

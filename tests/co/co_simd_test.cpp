@@ -52,6 +52,22 @@ void expectSameOfChars(std::u32string_view text) {
     ASSERT_EQ(co::scalar::narrow(&expected[0], text), count);
     ASSERT_EQ(co::simd::narrow(&narrowed[0], text), count);
     ASSERT_EQ(narrowed.view(), expected.view());
+    for (coChar wanted : {U'%', U'\x80', U'\x10FFFF', U'\0'})
+        ASSERT_EQ(co::simd::contains(text, wanted), co::scalar::contains(text, wanted));
+}
+
+TEST(Simd, ContainsACodePointAtEachPlaceOfEachLength) {
+    for (size_t size = 0; size <= 70; size++)
+        for (size_t alignment = 0; alignment < 4; alignment++) {
+            Placed<coChar> text(alignment, std::u32string(size, U'a'));
+            ASSERT_FALSE(co::simd::contains(text.view(), U'%'));
+            for (size_t at = 0; at < size; at++) {
+                text[at] = U'%';
+                ASSERT_TRUE(co::simd::contains(text.view(), U'%')) << size << ' ' << at;
+                ASSERT_FALSE(co::simd::contains(text.view(), U'%' | 0x100)) << "all of its bits count";
+                text[at] = U'a';
+            }
+        }
 }
 
 TEST(Simd, FindsNothingWhereNothingIs) {
