@@ -72,10 +72,7 @@ public:
     }
 
     // Of a text that nobody else has seen.
-    void toAsciiLower() {
-        auto *const chs = const_cast<coChar *>(view().data());
-        for (size_t i = 0; i < view().size(); i++) chs[i] = asciiLower(chs[i]);
-    }
+    void toAsciiLower() { makeAsciiLower(const_cast<coChar *>(view().data()), view().size()); }
 
     void init() {
         string = nullptr;

@@ -60,23 +60,23 @@ struct coString *quill___AcceptEncode(struct quillAccept const *accept) {
 }
 
 // A name at the start of the text, kept in lower case, or a star, which leaves the member absent.
-static int64_t takeNameOrStar(co::TextSlot *name, quill::Scanner scan, co::Chars text) {
+static int64_t takeNameOrStar(quillAccept *accept, co::TextSlot quillAccept::*name, quill::Scanner scan,
+                              co::Chars text) {
     int64_t const count = quill::measure(scan, text);
     if (count == 0) return quill___SkipChar(text.data(), co::length(text), U'*');
-    co::Ref<coString> const found(co::makeString(quill::upTo(text, count)));
-    name->adopt(quillTokenNormalize(found.get()));
+    co::keepLower(accept, name, quill::upTo(text, count));
     return count;
 }
 
 struct quillAccept *quill___AcceptTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Ref<quillAccept> accept(quillAcceptCreate());
     co::Chars text = co::chars(chs, length);
-    int64_t const type = takeNameOrStar(&accept->mediaType, quill___SkipMediaType, text);
+    co::Ref<quillAccept> accept(quill::makeParametric<quillAccept>(&text));
+    int64_t const type = takeNameOrStar(accept.get(), &quillAccept::mediaType, quill___SkipMediaType, text);
     text = quill::from(text, type);
     int64_t const slash = quill::measure(quill___SkipSlash, text);
     text = quill::from(text, slash);
-    int64_t const subtype = takeNameOrStar(&accept->mediaSubtype, quill___SkipMediaSubtype, text);
+    int64_t const subtype = takeNameOrStar(accept.get(), &quillAccept::mediaSubtype, quill___SkipMediaSubtype, text);
     text = quill::from(text, subtype);
     if (type == 0 || slash == 0 || subtype == 0) return nullptr;
     return quill::takeParams(accept.get(), text, lifted) ? accept.take() : nullptr;

@@ -61,13 +61,11 @@ struct coString *quill___AcceptEncodingEncode(struct quillAcceptEncoding const *
 // content-coding / "*". A star is a token, too: it is the wildcard where it stands alone.
 struct quillAcceptEncoding *quill___AcceptEncodingTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars const text = co::chars(chs, length);
+    co::Chars text = co::chars(chs, length);
+    co::Ref<quillAcceptEncoding> acceptEncoding(quill::makeParametric<quillAcceptEncoding>(&text));
     int64_t const count = quill::measure(quill___SkipContentCoding, text);
     if (count == 0) return nullptr;
-    co::Ref<quillAcceptEncoding> acceptEncoding(quillAcceptEncodingCreate());
-    if (quill::upTo(text, count) != U"*") {
-        co::Ref<coString> const coding(co::makeString(quill::upTo(text, count)));
-        acceptEncoding->contentCoding.adopt(quillContentCodingNormalize(coding.get()));
-    }
+    co::Chars const coding = quill::upTo(text, count);
+    if (coding != U"*") co::keepLower(acceptEncoding.get(), &quillAcceptEncoding::contentCoding, coding);
     return quill::takeParams(acceptEncoding.get(), quill::from(text, count), lifted) ? acceptEncoding.take() : nullptr;
 }

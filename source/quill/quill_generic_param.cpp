@@ -162,7 +162,7 @@ struct quillGenericParam *quill::readGenericParam(co::Chars *text) {
     if (name == 0) return nullptr;
     co::Ref<quillGenericParam> param(co::make<quillGenericParam>());
     param->name.adopt(co::makeString(upTo(*text, name)));
-    for (coChar *ch = param->name->chars(); ch < param->name->chars() + name; ch++) *ch = co::asciiLower(*ch);
+    co::makeAsciiLower(param->name->chars(), static_cast<size_t>(name));
     co::Chars rest = from(*text, name);
     if (int64_t const equal = matched(rules::equal(rest))) {
         rest = from(rest, equal);

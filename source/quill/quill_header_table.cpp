@@ -38,16 +38,6 @@ constexpr int64_t fewUnknown = 8; // names that are searched one after the other
 constexpr int64_t usualEntries = 20;
 constexpr uint32_t noEntry = UINT32_MAX;
 
-bool isBlank(char ch) { return ch == ' ' || ch == '\t'; }
-
-inline Bytes trimmed(Bytes text) {
-    char const *start = text.begin();
-    char const *end = text.end();
-    while (start < end && isBlank(*start)) start++;
-    while (start < end && isBlank(end[-1])) end--;
-    return {start, end};
-}
-
 // What stands before the next line end; the rest stays without both.
 inline Bytes takeLine(Bytes *rest) {
     size_t const end = co::findLineEnd(*rest);
@@ -59,7 +49,7 @@ inline Bytes takeLine(Bytes *rest) {
 // Calls `add` with the pieces of a folded text, trimmed, those of white space alone left out.
 template <class Add> void forEachPiece(Bytes folded, Add add) {
     while (!folded.empty())
-        if (Bytes const piece = trimmed(takeLine(&folded)); !piece.empty()) add(piece);
+        if (Bytes const piece = withoutBlanks(takeLine(&folded)); !piece.empty()) add(piece);
 }
 
 } // namespace
@@ -365,8 +355,8 @@ private:
         if (usual) {
             value.remove_prefix(1);
         } else {
-            name = folded ? pieceOf(name) : trimmed(name);
-            value = trimmed(value);
+            name = folded ? pieceOf(name) : withoutBlanks(name);
+            value = withoutBlanks(value);
         }
         FieldName const field = matchFieldName(name, text.end());
         WireLine *const line = index.add();

@@ -14,6 +14,17 @@
 
 namespace quill {
 
+template <class Char> constexpr bool isBlank(Char ch) { return ch == Char{' '} || ch == Char{'\t'}; }
+
+// A text without the blanks around it.
+template <class Char> std::basic_string_view<Char> withoutBlanks(std::basic_string_view<Char> text) {
+    auto const *start = text.begin();
+    auto const *end = text.end();
+    while (start < end && isBlank(*start)) start++;
+    while (start < end && isBlank(end[-1])) end--;
+    return {start, end};
+}
+
 // One line of the received bytes.
 struct WireLine {
     uint32_t start; // of the name

@@ -24,13 +24,6 @@ namespace {
 
 using Bytes = std::string_view;
 
-template <class Text> Text trimmed(Text text) {
-    auto const isBlank = [](auto ch) { return ch == ' ' || ch == '\t'; };
-    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-    return text;
-}
-
 coString *toString(Bytes valid) { return co::makeStringFromUtf8(valid); }
 
 // What stands before the separator; the rest stays without both. False, and nothing is taken, where there is none.
@@ -174,7 +167,7 @@ struct quillMessageFragment *quillMessageFragmentTryDecode(struct coBuffer const
 
 struct coString *quill___MessageFragmentDecodeTrim(struct coString const *cos) {
     CO_ASSERT_GIVEN(cos);
-    co::Chars const inner = trimmed(cos->view());
+    co::Chars const inner = quill::withoutBlanks(cos->view());
     return inner.empty() ? nullptr : co::makeString(inner);
 }
 
@@ -185,9 +178,9 @@ bool quill___MessageFragmentDecodeHeader(struct quillMessageFragment **frag, str
     co::Chars const text = cos->view();
     size_t const colon = text.find(U':');
     if (colon == co::Chars::npos) return false;
-    co::Ref<coString> const normal(quill::tryNormalizeFieldName(trimmed(text.substr(0, colon))));
+    co::Ref<coString> const normal(quill::tryNormalizeFieldName(quill::withoutBlanks(text.substr(0, colon))));
     if (!normal) return false;
-    co::Ref<coString> const line(co::makeString(trimmed(text.substr(colon + 1))));
+    co::Ref<coString> const line(co::makeString(quill::withoutBlanks(text.substr(colon + 1))));
     struct quillMessageHeader *header = (*frag)->headers.header(normal->view());
     if (!header) header = quill::makeMessageHeader(normal.get());
     quillMessageHeaderAppendLine(&header, line.get());

@@ -142,8 +142,11 @@ TEST(QuillAccept, DeletingWhatIsAbsentCopiesAllTheSame) {
 }
 
 TEST(QuillAccept, GettersGiveReferences) {
-    auto const made = accept("text/plain;q=1;a");
+    auto made = accept("text/plain;q=1;a");
     auto const type = own(quillAcceptMediaType(made.get()));
+    EXPECT_EQ(count(type.get()), 1) << "a text that was read is made for whoever asks";
+    quillAcceptSetMediaType(made.address(), type.get());
+    EXPECT_EQ(own(quillAcceptMediaType(made.get())).get(), type.get()) << "one that was set is kept";
     EXPECT_EQ(count(type.get()), 2);
     auto const generic = own(quillAcceptGenericParams(made.get()));
     EXPECT_EQ(count(generic.get()), 2);
