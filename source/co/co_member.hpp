@@ -1,12 +1,14 @@
 // Members of objects, and what the free, copy and compare functions do with a type's list of them.
 //
-// A type names its members twice at most: members() in declaration order, comparison() in the order that decides.
+// A type names its members twice at most: members() in declaration order, comparison() in the order that decides. A
+// member's class says which of its words hold references; what is not a reference is plain data, absent when it is zero
+// unless init() says otherwise. So making, copying and freeing are one function each for all types: the code that a
+// message runs through has to fit into the processor's cache.
 #pragma once
 
 #include <co/co_obj.hpp>
 #include <co/co_string.hpp>
 #include <co/co_unicode.hpp>
-#include <functional>
 #include <tuple>
 
 namespace co {
@@ -15,6 +17,7 @@ namespace co {
 template <class T> class Slot {
 public:
     using Target = T;
+    static constexpr uint64_t references = 1; // its words that hold one, from the lowest bit on
 
     Slot() = default;
     constexpr explicit Slot(T *owned) : obj(owned) {}
@@ -31,11 +34,6 @@ public:
     }
     void clear() { adopt(nullptr); }
 
-    void init() { obj = nullptr; }
-    void copy(Slot const &source) { obj = source.retained(); }
-    void poison() {
-        if (T *old = std::exchange(obj, co::released<T>())) release(old);
-    }
     // Absent before present.
     int compare(Slot const &other) const {
         if (!obj || !other.obj) return (obj != nullptr) - (other.obj != nullptr);
@@ -50,6 +48,8 @@ private:
 // absent. A string of a piece is made for whoever asks for one, so that reading makes none that nobody looks at.
 class TextSlot {
 public:
+    static constexpr uint64_t references = 1;
+
     Chars view() const { return string ? string->view() : piece(); }
     explicit operator bool() const { return string || distance; }
     coString *retained() const {
@@ -74,18 +74,6 @@ public:
     // Of a text that nobody else has seen.
     void toAsciiLower() { makeAsciiLower(const_cast<coChar *>(view().data()), view().size()); }
 
-    void init() {
-        string = nullptr;
-        distance = length = 0;
-    }
-    void copy(TextSlot const &source) { // of an object whose line is copied as well
-        string = co::retained(source.string);
-        distance = source.distance;
-        length = source.length;
-    }
-    void poison() {
-        if (coString *old = std::exchange(string, co::released<coString>())) release(old);
-    }
     // Absent before present.
     int compare(TextSlot const &other) const {
         if (!*this || !other) return static_cast<bool>(*this) - static_cast<bool>(other);
@@ -117,14 +105,14 @@ template <class T> coChar *lineOf(T const *obj) { return reinterpret_cast<coChar
 // A signed 64-bit integer; -1 for absent.
 class Int {
 public:
+    static constexpr uint64_t references = 0;
+
     int64_t get() const { return number; }
     explicit operator bool() const { return number != -1; }
     void set(int64_t value) { number = value; }
     void clear() { number = -1; }
 
     void init() { clear(); }
-    void copy(Int const &source) { number = source.number; }
-    void poison() {}
     int compare(Int const &other) const { return (number > other.number) - (number < other.number); }
 
 private:
@@ -133,12 +121,11 @@ private:
 
 class Flag {
 public:
+    static constexpr uint64_t references = 0;
+
     bool get() const { return flag; }
     void set(bool value) { flag = value; }
 
-    void init() { flag = false; }
-    void copy(Flag const &source) { flag = source.flag; }
-    void poison() {}
     int compare(Flag const &other) const { return flag - other.flag; }
 
 private:
@@ -153,18 +140,41 @@ template <class T> constexpr auto sizeFunction() -> int64_t (*)(coObj const *) {
         return nullptr;
 }
 
-// A new object of a type with members, their values left open, with room for a line.
-template <class T> T *allocateWithLine(int64_t lineLength) {
-    auto *obj = static_cast<T *>(allocateObject(sizeWithLine<T>(lineLength), &T::sort));
-    if constexpr (std::is_base_of_v<WithLine, T>) obj->lineLength = lineLength;
-    return obj;
+// What is common to the types, over a bit for each word of an object that holds a reference.
+
+// A new object of the sort's size and a line, all zero behind its header.
+void *makeZeroed(coSort const *sort, int64_t lineLength);
+// A new object that shares the references of another, its line included.
+void *copyObject(coObj const *source, uint64_t references);
+// Gives up the references in the order of the words and leaves the all-ones pattern in their places.
+void freeReferences(coObj *obj, uint64_t references);
+
+inline constexpr size_t mostWords = 64;
+
+template <class T> uint64_t referencesOf(T const *obj) {
+    static_assert(sizeof(T) <= mostWords * sizeof(void *));
+    auto const bits = [obj]<class Owner, class Member>(Member Owner::*m) { // a base may own it
+        auto const distance = reinterpret_cast<char const *>(&(obj->*m)) - reinterpret_cast<char const *>(obj);
+        return Member::references << (static_cast<size_t>(distance) / sizeof(void *));
+    };
+    return std::apply([bits](auto... m) { return (bits(m) | ...); }, T::members());
+}
+
+template <class Member> void initUnlessZero(Member &member) {
+    if constexpr (requires { member.init(); }) member.init();
 }
 
 // A new object of a type with members, all absent; a line is left to be filled.
 template <class T> T *make(int64_t lineLength = 0) {
-    auto *obj = allocateWithLine<T>(lineLength);
-    std::apply([&](auto... m) { ((obj->*m).init(), ...); }, T::members());
+    auto *obj = static_cast<T *>(makeZeroed(&T::sort, lineLength));
+    if constexpr (std::is_base_of_v<WithLine, T>) obj->lineLength = lineLength;
+    std::apply([obj](auto... m) { (initUnlessZero(obj->*m), ...); }, T::members());
     return obj;
+}
+
+// The line of a WithLine of any type, by its sort.
+inline coChar *lineBehind(coObj *obj) {
+    return reinterpret_cast<coChar *>(reinterpret_cast<char *>(obj) + obj->itsSort->size);
 }
 
 // A new WithLine, which keeps a copy of the line. The caller goes on with that: what is found there can be kept.
@@ -175,16 +185,10 @@ template <class T> T *makeWithLine(Chars *line) {
     return obj;
 }
 
-// Sets a text of an object: a piece of its line where the text is one, else a string.
-template <class T> void keep(T *obj, TextSlot T::*slot, Chars text) {
-    std::less_equal<> const before; // also of places in different blocks
-    bool const isPiece = before(lineOf(obj), text.data()) && before(text.data(), lineOf(obj) + obj->lineLength) &&
-                         obj->lineLength <= longestLine;
-    if (isPiece)
-        (obj->*slot).setPiece(text);
-    else
-        (obj->*slot).adopt(makeString(text));
-}
+// Sets a text of an object that keeps a line, which is given: a piece of it where the text is one, else a string.
+void keepText(WithLine const *obj, coChar const *line, TextSlot *slot, Chars text);
+
+template <class T> void keep(T *obj, TextSlot T::*slot, Chars text) { keepText(obj, lineOf(obj), &(obj->*slot), text); }
 
 // The same of a text whose ASCII letters are to be lower case: a piece is changed where it stands.
 template <class T> void keepLower(T *obj, TextSlot T::*slot, Chars text) {
@@ -193,19 +197,10 @@ template <class T> void keepLower(T *obj, TextSlot T::*slot, Chars text) {
 }
 
 // A new object that shares the members of another.
-template <class T> T *makeCopy(T const *source) {
-    int64_t length = 0;
-    if constexpr (std::is_base_of_v<WithLine, T>) length = source->lineLength;
-    T *obj = allocateWithLine<T>(length);
-    std::memcpy(lineOf(obj), lineOf(source), static_cast<size_t>(length) * sizeof(coChar));
-    std::apply([&](auto... m) { ((obj->*m).copy(source->*m), ...); }, T::members());
-    return obj;
-}
+template <class T> T *makeCopy(T const *source) { return static_cast<T *>(copyObject(source, referencesOf(source))); }
 
-// Gives up the members in declaration order and leaves the all-ones pattern in their slots.
-template <class T> void freeMembers(coObj *obj) {
-    std::apply([&](auto... m) { ((static_cast<T *>(obj)->*m).poison(), ...); }, T::members());
-}
+// Gives up the members and leaves the all-ones pattern in their slots.
+template <class T> void freeMembers(coObj *obj) { freeReferences(obj, referencesOf(static_cast<T *>(obj))); }
 
 // The first difference decides.
 template <class T> int compareMembers(T const *a, T const *b) {

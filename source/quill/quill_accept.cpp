@@ -68,16 +68,19 @@ static int64_t takeNameOrStar(quillAccept *accept, co::TextSlot quillAccept::*na
     return count;
 }
 
+static bool readAccept(quillAccept *accept, co::Chars *line) {
+    int64_t const type = takeNameOrStar(accept, &quillAccept::mediaType, quill___SkipMediaType, *line);
+    *line = quill::from(*line, type);
+    int64_t const slash = quill::measure(quill___SkipSlash, *line);
+    *line = quill::from(*line, slash);
+    int64_t const subtype = takeNameOrStar(accept, &quillAccept::mediaSubtype, quill___SkipMediaSubtype, *line);
+    *line = quill::from(*line, subtype);
+    if (type == 0 || slash == 0 || subtype == 0) return false;
+    *line = quill::readParams(accept, *line, lifted);
+    return true;
+}
+
 struct quillAccept *quill___AcceptTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars text = co::chars(chs, length);
-    co::Ref<quillAccept> accept(quill::makeParametric<quillAccept>(&text));
-    int64_t const type = takeNameOrStar(accept.get(), &quillAccept::mediaType, quill___SkipMediaType, text);
-    text = quill::from(text, type);
-    int64_t const slash = quill::measure(quill___SkipSlash, text);
-    text = quill::from(text, slash);
-    int64_t const subtype = takeNameOrStar(accept.get(), &quillAccept::mediaSubtype, quill___SkipMediaSubtype, text);
-    text = quill::from(text, subtype);
-    if (type == 0 || slash == 0 || subtype == 0) return nullptr;
-    return quill::takeParams(accept.get(), text, lifted) ? accept.take() : nullptr;
+    return quill::tryReadWhole<quillAccept>(co::chars(chs, length), readAccept);
 }

@@ -59,13 +59,16 @@ struct coString *quill___AcceptEncodingEncode(struct quillAcceptEncoding const *
 }
 
 // content-coding / "*". A star is a token, too: it is the wildcard where it stands alone.
+static bool readAcceptEncoding(quillAcceptEncoding *acceptEncoding, co::Chars *line) {
+    int64_t const count = quill::measure(quill___SkipContentCoding, *line);
+    if (count == 0) return false;
+    co::Chars const coding = quill::upTo(*line, count);
+    if (coding != U"*") co::keepLower(acceptEncoding, &quillAcceptEncoding::contentCoding, coding);
+    *line = quill::readParams(acceptEncoding, quill::from(*line, count), lifted);
+    return true;
+}
+
 struct quillAcceptEncoding *quill___AcceptEncodingTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars text = co::chars(chs, length);
-    co::Ref<quillAcceptEncoding> acceptEncoding(quill::makeParametric<quillAcceptEncoding>(&text));
-    int64_t const count = quill::measure(quill___SkipContentCoding, text);
-    if (count == 0) return nullptr;
-    co::Chars const coding = quill::upTo(text, count);
-    if (coding != U"*") co::keepLower(acceptEncoding.get(), &quillAcceptEncoding::contentCoding, coding);
-    return quill::takeParams(acceptEncoding.get(), quill::from(text, count), lifted) ? acceptEncoding.take() : nullptr;
+    return quill::tryReadWhole<quillAcceptEncoding>(co::chars(chs, length), readAcceptEncoding);
 }

@@ -26,8 +26,8 @@
     static void appendValue(coString **text, struct quillHeader##Type const *hdr) {                                    \
         quill::appendAddress(text, *hdr, lifted);                                                                      \
     }                                                                                                                  \
-    static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
-        return quill::tryDecodeAddress<struct quillHeader##Type>(line, quill::Bare::allowed, lifted);                  \
+    static bool readValue(struct quillHeader##Type *hdr, co::Chars line) {                                             \
+        return quill::takeAddress(hdr, line, quill::Bare::allowed, lifted);                                            \
     }
 
 // All of a header field that lifts no parameter.
@@ -43,7 +43,7 @@
         }                                                                                                              \
         static constexpr auto comparison() { return members(); }                                                       \
     };                                                                                                                 \
-    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    QUILL_DEFINE_LINE_HEADER(Type, SORT)                                                                               \
     QUILL_DEFINE_ADDRESS_MEMBERS(Type)                                                                                 \
     static constexpr std::tuple<> nothingLifted;                                                                       \
     QUILL_DEFINE_ADDRESS_CODEC(Type, nothingLifted)
@@ -69,7 +69,7 @@
         quill::TextParam{U"tag", quill___SkipTag, &quillHeader##Type::tag},                                            \
         quill::TextParam{U"epid", quill___SkipEpid, &quillHeader##Type::epid},                                         \
     };                                                                                                                 \
-    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    QUILL_DEFINE_LINE_HEADER(Type, SORT)                                                                               \
     QUILL_DEFINE_ADDRESS_MEMBERS(Type)                                                                                 \
     QUILL_DEFINE_ADDRESS_CODEC(Type, lifted)                                                                           \
     CO_DEFINE_OPTIONAL_STRING_MEMBER(quillHeader##Type, hdr, Tag, tag, quillTagOk, tag, co::asGiven)                   \

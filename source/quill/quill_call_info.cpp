@@ -44,13 +44,16 @@ struct coString *quill___CallInfoEncode(struct quillCallInfo const *callInfo) {
     return text;
 }
 
+static bool readCallInfo(quillCallInfo *callInfo, co::Chars *line) {
+    co::Chars uri;
+    int64_t const count = quill::takeBracketedUri(*line, &uri);
+    if (count == 0) return false;
+    quill::keepIri(callInfo, uri);
+    *line = quill::readParams(callInfo, quill::from(*line, count), lifted);
+    return true;
+}
+
 struct quillCallInfo *quill___CallInfoTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars text = co::chars(chs, length);
-    co::Ref<quillCallInfo> callInfo(quill::makeParametric<quillCallInfo>(&text));
-    co::Chars uri;
-    int64_t const count = quill::takeBracketedUri(text, &uri);
-    if (count == 0) return nullptr;
-    quill::keepIri(callInfo.get(), uri);
-    return quill::takeParams(callInfo.get(), quill::from(text, count), lifted) ? callInfo.take() : nullptr;
+    return quill::tryReadWhole<quillCallInfo>(co::chars(chs, length), readCallInfo);
 }

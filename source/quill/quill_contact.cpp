@@ -98,11 +98,18 @@ struct coString *quill___ContactEncode(struct quillContact const *contact) {
     return quill::encodeAddress(*contact, lifted);
 }
 
-struct quillContact *quill::readContact(co::Chars *text) {
-    return readAddress<quillContact>(text, Bare::allowed, lifted);
+static bool readContact(quillContact *contact, co::Chars *line) {
+    return quill::readAddress(contact, line, quill::Bare::allowed, lifted);
 }
+
+// A star is a token too, but no contact of a list begins with one, not even as its display name.
+static bool readUnlessStar(quillContact *contact, co::Chars *line) {
+    return quill::measure(quill___SkipStar, *line) == 0 && readContact(contact, line);
+}
+
+constinit quill::ValueKind const quill::contactKind = valueKind<quillContact, readUnlessStar>();
 
 struct quillContact *quill___ContactTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    return quill::tryReadWhole(co::chars(chs, length), quill::readContact);
+    return quill::tryReadWhole<quillContact>(co::chars(chs, length), readContact);
 }

@@ -102,7 +102,11 @@ struct coString *quill___DiversionEncode(struct quillDiversion const *diversion)
     return quill::encodeAddress(*diversion, lifted);
 }
 
+static bool readDiversion(quillDiversion *diversion, co::Chars *line) {
+    return quill::readAddress(diversion, line, quill::Bare::allowed, lifted);
+}
+
 struct quillDiversion *quill___DiversionTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    return quill::tryDecodeAddress<quillDiversion>(co::chars(chs, length), quill::Bare::allowed, lifted);
+    return quill::tryReadWhole<quillDiversion>(co::chars(chs, length), readDiversion);
 }

@@ -33,28 +33,11 @@ coVector **Elements::writable() {
 
 void Elements::clear() { coVectorClear(writable()); }
 
-void Elements::append(co::Chars text, coChar *room, int64_t length) {
-    if (strings || pieceCount == mostPieces || co::length(text) > length - used) {
+void Elements::append(co::Chars text, bool standsInRoom) {
+    if (strings || pieceCount == mostPieces || !standsInRoom)
         co::appendTaken(writable(), co::header(co::makeString(text)));
-        return;
-    }
-    coChar *const to = room + used;
-    std::copy(text.begin(), text.end(), to);
-    pieces[pieceCount++] = {static_cast<uint32_t>(to - base()), static_cast<uint32_t>(text.size())};
-    used += co::length(text);
-}
-
-void Elements::copy(Elements const &source) {
-    strings = co::retained(source.strings);
-    firstValue = co::retained(source.firstValue);
-    pieceCount = source.pieceCount;
-    used = source.used;
-    std::copy(source.pieces, source.pieces + source.pieceCount, pieces);
-}
-
-void Elements::poison() {
-    if (coVector *old = std::exchange(strings, co::released<coVector>())) co::release(old);
-    if (coObj *old = std::exchange(firstValue, co::released<coObj>())) co::release(old);
+    else
+        pieces[pieceCount++] = {static_cast<uint32_t>(text.data() - base()), static_cast<uint32_t>(text.size())};
 }
 
 int Elements::compare(Elements const &other) const {

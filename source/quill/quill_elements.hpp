@@ -11,6 +11,8 @@ namespace quill {
 
 class Elements {
 public:
+    static constexpr uint64_t references = 0b11;
+
     int64_t count() const { return strings ? strings->length : pieceCount; }
     // The text of an element, and a string of it, owned by the caller. There must be such an element.
     co::Chars view(int64_t index) const;
@@ -28,17 +30,9 @@ public:
     coVector **writable();
     void clear();
 
-    // Appends a text that was read: as a piece, which is copied to the room behind the object, or as a string.
-    void append(co::Chars text, coChar *room, int64_t length);
+    // Appends a text that was read: as a piece where it stands in the room behind the object, or as a string.
+    void append(co::Chars text, bool standsInRoom);
 
-    void init() {
-        strings = nullptr;
-        firstValue = nullptr;
-        pieceCount = 0;
-        used = 0;
-    }
-    void copy(Elements const &source);
-    void poison();
     // Element by element; the shorter list of two that begin alike comes first.
     int compare(Elements const &other) const;
 
@@ -53,10 +47,10 @@ private:
     coChar const *base() const { return reinterpret_cast<coChar const *>(this); }
     co::Chars piece(int64_t index) const { return {base() + pieces[index].distance, pieces[index].length}; }
 
+    // These two come first: they are the references.
     coVector *strings; // null while the elements are pieces
     coObj *firstValue;
     int64_t pieceCount;
-    int64_t used; // of the room for pieces
     Piece pieces[mostPieces];
 };
 

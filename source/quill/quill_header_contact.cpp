@@ -22,10 +22,6 @@ static int64_t measureContact(coChar const *chs, int64_t length) {
     return quill___SkipStar(chs, length) ? 0 : quill___SkipContact(chs, length);
 }
 
-static quillContact *readUnlessStar(co::Chars *text) {
-    return quill::measure(quill___SkipStar, *text) ? nullptr : quill::readContact(text);
-}
-
 // Whether a star is all that the lines hold.
 static bool isStar(quill::Lines &lines) {
     int64_t stars = 0;
@@ -65,7 +61,7 @@ struct quillMessageHeader *quillHeaderContactEncode(struct quillHeaderContact co
 
 // A star is no list: what decodes as one need not be looked at for it.
 static quillHeaderContact *tryDecodeLines(quill::Lines &lines) {
-    if (auto *list = quill::tryDecodeList<quillHeaderContact>(lines, measureContact, readUnlessStar)) return list;
+    if (auto *list = quill::tryDecodeList<quillHeaderContact>(lines, measureContact, &quill::contactKind)) return list;
     lines.restart();
     if (!isStar(lines)) return nullptr;
     quillHeaderContact *hdr = quillHeaderContactCreate();

@@ -18,7 +18,7 @@ struct quillHeaderCseq : co::WithLine {
     static constexpr auto comparison() { return members(); }
 };
 
-QUILL_DEFINE_VALUE_HEADER(Cseq, CSEQ)
+QUILL_DEFINE_LINE_HEADER(Cseq, CSEQ)
 CO_DEFINE_INT_MEMBER(quillHeaderCseq, hdr, Cseq, cseq, quillCseqOk, cseq)
 CO_DEFINE_STRING_MEMBER(quillHeaderCseq, hdr, Method, method, quillMethodOk, method, co::asGiven)
 CO_DEFINE_TEXT_FORMS_1(void, quillHeaderCseqSetMethod, struct quillHeaderCseq **, hdr, method)
@@ -38,10 +38,9 @@ static void appendValue(coString **text, struct quillHeaderCseq const *hdr) {
     co::append(text, hdr->method.view());
 }
 
-static struct quillHeaderCseq *tryDecodeValue(co::Chars line) {
-    co::Ref<quillHeaderCseq> hdr(co::makeWithLine<quillHeaderCseq>(&line));
+static bool readValue(quillHeaderCseq *hdr, co::Chars line) {
     hdr->cseq.set(quill::takeNumberAndLws(&line, quillCseqOk));
-    if (!hdr->cseq || !quill::isWhole(quill___SkipMethod, line)) return nullptr;
-    co::keep(hdr.get(), &quillHeaderCseq::method, line);
-    return hdr.take();
+    if (!hdr->cseq || !quill::isWhole(quill___SkipMethod, line)) return false;
+    co::keep(hdr, &quillHeaderCseq::method, line);
+    return true;
 }

@@ -31,6 +31,34 @@ coString *textOfLines(struct quillMessageHeader const *header) {
     return coVectorToString(lines);
 }
 
+// The value that the line which was read last begins with, when that is all of the first element; null otherwise.
+static co::Ref<coObj> tryReadFirst(Lines const &lines, ValueKind const *kind, int64_t *count) {
+    co::Ref<coObj> value(kind->make(lines.currentRoom()));
+    co::Chars const line = lines.again(co::lineBehind(value.get()));
+    co::Chars rest = line;
+    bool const isRead = kind->read(value.get(), &rest);
+    *count = co::length(line) - co::length(rest);
+    return isRead && (rest.empty() || rules::comma(rest) > 0) ? std::move(value) : co::Ref<coObj>();
+}
+
+bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *kind) {
+    coChar *room = hdr->lineLength > 0 ? co::lineBehind(hdr) : nullptr;
+    co::Ref<coObj> first;
+    auto const take = [&](co::Chars text) {
+        int64_t count = 0;
+        if (kind && room && hdr->elements.count() == 0) first = tryReadFirst(lines, kind, &count);
+        if (!first || hdr->elements.count() > 0) count = measure(element, text);
+        if (count > 0) hdr->elements.append(upTo(text, count), room);
+        return count;
+    };
+    for (co::Chars line; room ? lines.next(room, &line) : lines.next(&line);) {
+        if (!readElementsOf(line, quill___SkipComma, take)) return false;
+        if (room) room += line.size();
+    }
+    hdr->elements.adoptFirst(first.take());
+    return lines.count() > 0;
+}
+
 static void appendJoined(coString **line, co::Chars text, co::Chars delimiter) {
     if ((*line)->length > 0) co::append(line, delimiter);
     co::append(line, text);

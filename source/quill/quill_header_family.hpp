@@ -15,6 +15,7 @@
 #include <quill/quill_message_fragment.hpp>
 #include <quill/quill_message_header.h>
 #include <quill/quill_message_header.hpp>
+#include <quill/quill_readers.hpp>
 #include <quill/quill_scalar.hpp>
 #include <quill/quill_typed_headers.hpp>
 
@@ -42,20 +43,25 @@ struct quillMessageHeader *makeHeaderOfLine(coString *name, coString *line);
 // No line is the empty text, one line itself, more the text of their vector.
 coString *textOfLines(struct quillMessageHeader const *header);
 
-// Reads elements between separators off every line that is not empty: `take` has the element at the start of the text
-// and says how many code points it is, 0 for none. False where a line is anything else, or where there is no line.
-template <class Take> bool readElements(Lines &lines, Scanner separator, Take take) {
-    for (co::Chars rest; lines.next(&rest);) {
-        while (!rest.empty()) {
-            int64_t const count = take(rest);
-            if (count == 0) return false;
-            rest = from(rest, count);
-            if (rest.empty()) break;
-            int64_t const between = measure(separator, rest);
-            rest = from(rest, between);
-            if (between == 0 || rest.empty()) return false; // something else, or nothing behind a separator
-        }
+// Reads elements between separators off a line, which may be empty: `take` has the element at the start of the text and
+// says how many code points it is, 0 for none. False where the line is anything else.
+template <class Take> bool readElementsOf(co::Chars line, Scanner separator, Take take) {
+    while (!line.empty()) {
+        int64_t const count = take(line);
+        if (count == 0) return false;
+        line = from(line, count);
+        if (line.empty()) break;
+        int64_t const between = measure(separator, line);
+        line = from(line, between);
+        if (between == 0 || line.empty()) return false; // something else, or nothing behind a separator
     }
+    return true;
+}
+
+// The same of all lines. False also where there is none.
+template <class Take> bool readElements(Lines &lines, Scanner separator, Take take) {
+    for (co::Chars line; lines.next(&line);)
+        if (!readElementsOf(line, separator, take)) return false;
     return lines.count() > 0;
 }
 
@@ -69,38 +75,13 @@ struct ListHeader : co::WithLine {
     void onElement() {} // is called when an element is put in
 };
 
-// Reads a value at the start of a text, which then goes on behind it; null where there is none that decodes. Where an
-// element ends behind the value, the element's scanner takes just as much.
-template <class T> using ValueReader = T *(*)(co::Chars *text);
+// Reads the lines into a new list, which has room for them where they are few: elements as they are written, and the
+// value of the first one where its kind is given. False where a line is anything else.
+bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *first);
 
-// The value that the first element of a list is, when it is what the text holds up to its end or to a comma.
-template <class T> co::Ref<T> tryReadFirst(co::Chars text, ValueReader<T> read, int64_t *count) {
-    co::Chars rest = text;
-    co::Ref<T> value(read(&rest));
-    *count = co::length(text) - co::length(rest);
-    bool const isWhole = value && (rest.empty() || rules::comma(rest) > 0);
-    return isWhole ? std::move(value) : co::Ref<T>();
-}
-
-// Nearly everybody who decodes a list reads its first element: with `read` that is done at once where the lines are few.
-// Elements are kept as they are written.
-template <class H, class T> H *tryDecodeList(Lines &lines, Scanner element, ValueReader<T> read) {
+template <class H> H *tryDecodeList(Lines &lines, Scanner element, ValueKind const *first = nullptr) {
     co::Ref<H> hdr(co::make<H>(lines.room()));
-    co::Ref<T> first;
-    auto const take = [&](co::Chars text) {
-        int64_t count = 0;
-        if (read && hdr->elements.count() == 0 && hdr->lineLength > 0) first = tryReadFirst(text, read, &count);
-        if (!first || hdr->elements.count() > 0) count = measure(element, text);
-        if (count > 0) hdr->elements.append(upTo(text, count), co::lineOf(hdr.get()), hdr->lineLength);
-        return count;
-    };
-    if (!readElements(lines, quill___SkipComma, take)) return nullptr;
-    hdr->elements.adoptFirst(first ? co::header(first.take()) : nullptr);
-    return hdr.take();
-}
-
-template <class H> H *tryDecodeList(Lines &lines, Scanner element) {
-    return tryDecodeList<H, coObj>(lines, element, nullptr);
+    return readList(hdr.get(), lines, element, first) ? hdr.take() : nullptr;
 }
 
 // `normalize` gives an element as it is kept.
@@ -212,6 +193,14 @@ template <class H> void setEach(H **hdr, coVector const *vec, void (*set)(H **, 
 struct quillMessageHeader *makeHeaderOfJoined(coString *name, coVector const *texts, co::Chars delimiter);
 struct quillMessageHeader *makeHeaderOfJoined(coString *name, coDict const *keys, co::Chars delimiter);
 
+// The value that the last line holds as a whole, or null.
+template <class H> H *tryReadLast(Lines &lines, bool (*read)(H *, co::Chars)) {
+    if (lines.count() == 0) return nullptr;
+    co::Ref<H> hdr(co::make<H>(lines.lastRoom()));
+    co::Chars const line = lines.last(co::lineOf(hdr.get()));
+    return read(hdr.get(), line) ? hdr.take() : nullptr;
+}
+
 inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, value, 10, 0, false, co::Case::lower); }
 
 } // namespace quill
@@ -274,20 +263,34 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
 //     static struct quillHeader<Type> *tryDecodeValue(co::Chars line);
 #define QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                          \
     QUILL_DEFINE_HEADER(Type, SORT)                                                                                    \
-    QUILL_DEFINE_VALUE_HEADER_CODEC(Type)
-
-#define QUILL_DEFINE_VALUE_HEADER_CODEC(Type)                                                                          \
-    static void appendValue(coString **text, struct quillHeader##Type const *hdr);                                     \
+    QUILL_DEFINE_VALUE_HEADER_ENCODE(Type)                                                                             \
     static struct quillHeader##Type *tryDecodeValue(co::Chars line);                                                   \
+    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
+        co::Chars line;                                                                                                \
+        return lines.last(&line) ? tryDecodeValue(line) : nullptr;                                                     \
+    }
+
+#define QUILL_DEFINE_VALUE_HEADER_ENCODE(Type)                                                                         \
+    static void appendValue(coString **text, struct quillHeader##Type const *hdr);                                     \
     struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
         coString *line = co::makeString(quill::usualValueLength);                                                      \
         appendValue(&line, hdr);                                                                                       \
         return quill::makeHeaderOfLine(quill___Cos##Type, line);                                                       \
-    }                                                                                                                  \
+    }
+
+// A single value that keeps the line it is read from. The unit defines, besides the struct and its members, appendValue
+// and
+//
+//     static bool readValue(struct quillHeader<Type> *hdr, co::Chars line);
+//
+// which reads the header's own line into a header that has nothing yet, and says whether it is one.
+#define QUILL_DEFINE_LINE_HEADER(Type, SORT)                                                                           \
+    QUILL_DEFINE_HEADER(Type, SORT)                                                                                    \
+    QUILL_DEFINE_VALUE_HEADER_ENCODE(Type)                                                                             \
+    static bool readValue(struct quillHeader##Type *hdr, co::Chars line);                                              \
     static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
-        co::Chars line;                                                                                                \
-        return lines.last(&line) ? tryDecodeValue(line) : nullptr;                                                     \
+        return quill::tryReadLast<struct quillHeader##Type>(lines, readValue);                                         \
     }
 
 // A list: the struct, its creation, and what all lists have.
@@ -364,11 +367,11 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     QUILL_DEFINE_LIST_SETTERS(Type, Element, struct quill##Value const *, value, quill___##Value##Encode)
 
 // A list of which the first element is read with the header.
-#define QUILL_DEFINE_READ_VALUE_LIST_HEADER(Type, SORT, Element, value, skip, read)                                    \
+#define QUILL_DEFINE_READ_VALUE_LIST_HEADER(Type, SORT, Element, value, skip, kind)                                    \
     QUILL_DEFINE_LIST_OBJECT(Type, SORT)                                                                               \
     QUILL_DEFINE_LIST_ENCODE(Type)                                                                                     \
     static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
-        return quill::tryDecodeList<struct quillHeader##Type>(lines, skip, read);                                      \
+        return quill::tryDecodeList<struct quillHeader##Type>(lines, skip, &kind);                                     \
     }                                                                                                                  \
     QUILL_DEFINE_LIST_CLEAR(Type, Clear##Element##s)                                                                   \
     QUILL_DEFINE_VALUE_LIST_ACCESS(Type, Element, Element, value, quill##Element##CreateFrom)
@@ -461,14 +464,15 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     CO_DEFINE_TEXT_FORMS_1(void, quillHeader##Type##Del##Token, struct quillHeader##Type **, hdr, token)
 
 // A single value that is one text: the object, and what is common to both ways of reading it.
-#define QUILL_DEFINE_TEXT_HEADER_OBJECT(Type, SORT, Part, part, normalize)                                             \
+#define QUILL_DEFINE_TEXT_HEADER_OBJECT(Type, SORT, part)                                                              \
     struct quillHeader##Type : co::WithLine {                                                                          \
         static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
         co::TextSlot part; /* never null */                                                                            \
         static constexpr auto members() { return std::tuple(&quillHeader##Type::part); }                               \
         static constexpr auto comparison() { return members(); }                                                       \
-    };                                                                                                                 \
-    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    };
+
+#define QUILL_DEFINE_TEXT_HEADER_ACCESS(Type, Part, part, normalize)                                                   \
     CO_DEFINE_STRING_MEMBER(quillHeader##Type, hdr, Part, part, quill##Part##Ok, part, normalize)                      \
     struct quillHeader##Type *quillHeader##Type##Create(struct coString *part) {                                       \
         CO_ASSERT_OK(quill##Part##Ok, part);                                                                           \
@@ -482,17 +486,20 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
 
 // The scanner takes the whole line, which is kept as it is given.
 #define QUILL_DEFINE_TEXT_HEADER(Type, SORT, Part, part)                                                               \
-    QUILL_DEFINE_TEXT_HEADER_OBJECT(Type, SORT, Part, part, co::asGiven)                                               \
-    static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
-        if (!quill::isWhole(quill___Skip##Part, line)) return nullptr;                                                 \
-        auto *hdr = co::makeWithLine<struct quillHeader##Type>(&line);                                                 \
+    QUILL_DEFINE_TEXT_HEADER_OBJECT(Type, SORT, part)                                                                  \
+    QUILL_DEFINE_LINE_HEADER(Type, SORT)                                                                               \
+    QUILL_DEFINE_TEXT_HEADER_ACCESS(Type, Part, part, co::asGiven)                                                     \
+    static bool readValue(struct quillHeader##Type *hdr, co::Chars line) {                                             \
+        if (!quill::isWhole(quill___Skip##Part, line)) return false;                                                   \
         co::keep(hdr, &quillHeader##Type::part, line);                                                                 \
-        return hdr;                                                                                                    \
+        return true;                                                                                                   \
     }
 
 // The validator takes the whole line, which is kept in its normal form.
 #define QUILL_DEFINE_NORMAL_TEXT_HEADER(Type, SORT, Part, part)                                                        \
-    QUILL_DEFINE_TEXT_HEADER_OBJECT(Type, SORT, Part, part, quill##Part##Normalize)                                    \
+    QUILL_DEFINE_TEXT_HEADER_OBJECT(Type, SORT, part)                                                                  \
+    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    QUILL_DEFINE_TEXT_HEADER_ACCESS(Type, Part, part, quill##Part##Normalize)                                          \
     static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
         co::Ref<coString> const text(co::makeString(line));                                                            \
         return quill##Part##Ok(text.get()) ? quillHeader##Type##Create(text.get()) : nullptr;                          \

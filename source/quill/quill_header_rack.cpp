@@ -22,7 +22,7 @@ struct quillHeaderRack : co::WithLine {
     static constexpr auto comparison() { return members(); }
 };
 
-QUILL_DEFINE_VALUE_HEADER(Rack, RACK)
+QUILL_DEFINE_LINE_HEADER(Rack, RACK)
 CO_DEFINE_INT_MEMBER(quillHeaderRack, hdr, ResponseNum, responseNum, quillResponseNumOk, responseNum)
 CO_DEFINE_INT_MEMBER(quillHeaderRack, hdr, Cseq, cseq, quillCseqOk, cseq)
 CO_DEFINE_STRING_MEMBER(quillHeaderRack, hdr, Method, method, quillMethodOk, method, co::asGiven)
@@ -46,12 +46,11 @@ static void appendValue(coString **text, struct quillHeaderRack const *hdr) {
     co::append(text, hdr->method.view());
 }
 
-static struct quillHeaderRack *tryDecodeValue(co::Chars line) {
-    co::Ref<quillHeaderRack> hdr(co::makeWithLine<quillHeaderRack>(&line));
+static bool readValue(quillHeaderRack *hdr, co::Chars line) {
     hdr->responseNum.set(quill::takeNumberAndLws(&line, quillResponseNumOk));
-    if (!hdr->responseNum) return nullptr;
+    if (!hdr->responseNum) return false;
     hdr->cseq.set(quill::takeNumberAndLws(&line, quillCseqOk));
-    if (!hdr->cseq || !quill::isWhole(quill___SkipMethod, line)) return nullptr;
-    co::keep(hdr.get(), &quillHeaderRack::method, line);
-    return hdr.take();
+    if (!hdr->cseq || !quill::isWhole(quill___SkipMethod, line)) return false;
+    co::keep(hdr, &quillHeaderRack::method, line);
+    return true;
 }

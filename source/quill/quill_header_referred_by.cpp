@@ -25,7 +25,7 @@ static constexpr std::tuple lifted{
     quill::EnclosedParam{U"cid", quill___SkipSipCleanMsgId, &quillHeaderReferredBy::cid},
 };
 
-QUILL_DEFINE_VALUE_HEADER(ReferredBy, REFERRED_BY)
+QUILL_DEFINE_LINE_HEADER(ReferredBy, REFERRED_BY)
 QUILL_DEFINE_ADDRESS_MEMBERS(ReferredBy)
 QUILL_DEFINE_ADDRESS_CODEC(ReferredBy, lifted)
 CO_DEFINE_OPTIONAL_STRING_MEMBER(quillHeaderReferredBy, hdr, Cid, cid, quillSipCleanMsgIdOk, cid, co::asGiven)

@@ -7,4 +7,4 @@
 #include <quill/quill_readers.hpp>
 #include <quill/quill_route.h>
 
-QUILL_DEFINE_READ_VALUE_LIST_HEADER(Route, ROUTE, Route, route, quill___SkipRoute, quill::readRoute)
+QUILL_DEFINE_READ_VALUE_LIST_HEADER(Route, ROUTE, Route, route, quill___SkipRoute, quill::routeKind)

@@ -485,8 +485,7 @@ coVector *HeaderTable::vector() const {
 Lines::Lines(HeaderSet const *set, HeaderEntry const *entry) : capacity(usualLength) {
     if (!entry) return;
     if (entry->header) {
-        strings = entry->header->lines.get();
-        total = strings->length;
+        useStrings(entry->header->lines.get());
         return;
     }
     text = set->text;
@@ -495,57 +494,89 @@ Lines::Lines(HeaderSet const *set, HeaderEntry const *entry) : capacity(usualLen
     total = entry->count;
 }
 
-Lines::Lines(struct quillMessageHeader const *header)
-    : strings(header->lines.get()), total(strings->length), capacity(usualLength) {}
+Lines::Lines(struct quillMessageHeader const *header) : capacity(usualLength) { useStrings(header->lines.get()); }
+
+void Lines::useStrings(coVector const *lines) {
+    strings = lines;
+    total = lines->length;
+    if (total == 0) return;
+    place = firstPlace = 0;
+    lastPlace = static_cast<uint32_t>(total - 1);
+}
 
 Lines::~Lines() { coMemFree(heap); }
 
-co::Chars Lines::widen(uint32_t index) {
+int64_t Lines::length(uint32_t index) const {
+    return strings ? co::stringAt(strings, index)->length : text->lines()[index].length;
+}
+
+co::Chars Lines::copy(uint32_t index, coChar *to) const {
+    if (strings) {
+        co::Chars const line = co::stringAt(strings, index)->view();
+        std::copy(line.begin(), line.end(), to);
+        return {to, line.size()};
+    }
     WireLine const &line = text->lines()[index];
     Bytes const value = text->valueOf(line);
-    if (static_cast<int64_t>(value.size()) > capacity) {
-        coMemFree(heap);
-        capacity = static_cast<int64_t>(value.size());
-        heap = static_cast<coChar *>(coMemAllocN(capacity, sizeof(coChar)));
-    }
-    coChar *const chars = heap ? heap : local;
-    coChar *end = chars;
+    coChar *end = to;
     if (!line.folded) {
-        end = text->widen(chars, value);
+        end = text->widen(to, value);
     } else {
         forEachPiece(value, [&](Bytes piece) {
-            if (end != chars) *end++ = U' ';
+            if (end != to) *end++ = U' ';
             end = text->widen(end, piece);
         });
     }
-    return {chars, static_cast<size_t>(end - chars)};
+    return {to, static_cast<size_t>(end - to)};
+}
+
+co::Chars Lines::view(uint32_t index) {
+    if (strings) return co::stringAt(strings, index)->view();
+    if (length(index) > capacity) {
+        coMemFree(heap);
+        capacity = length(index);
+        heap = static_cast<coChar *>(coMemAllocN(capacity, sizeof(coChar)));
+    }
+    return copy(index, heap ? heap : local);
 }
 
 int64_t Lines::room() const {
     constexpr int64_t few = 8;
     constexpr int64_t most = 1024;
-    int64_t length = 0;
     if (total > few) return 0;
-    for (int64_t i = 0; strings && i < total; i++) length += co::stringAt(strings, i)->length;
-    for (uint32_t i = firstPlace; text && i != noLine; i = text->lines()[i].next) length += text->lines()[i].length;
-    return length <= most ? length : 0;
+    int64_t sum = 0;
+    for (uint32_t i = firstPlace; i != noLine && sum <= most; i = behind(i)) sum += length(i);
+    return sum <= most ? sum : 0;
+}
+
+// The place behind a line, noLine for none.
+uint32_t Lines::behind(uint32_t index) const {
+    if (text) return text->lines()[index].next;
+    return index < lastPlace ? index + 1 : noLine;
+}
+
+bool Lines::step() {
+    if (place == noLine) return false;
+    current = place;
+    place = behind(place);
+    return true;
 }
 
 bool Lines::next(co::Chars *line) {
-    if (strings) {
-        if (place >= strings->length) return false;
-        *line = co::stringAt(strings, place++)->view();
-        return true;
-    }
-    if (!text || place == noLine) return false;
-    *line = widen(place);
-    place = text->lines()[place].next;
+    if (!step()) return false;
+    *line = view(current);
+    return true;
+}
+
+bool Lines::next(coChar *to, co::Chars *line) {
+    if (!step()) return false;
+    *line = copy(current, to);
     return true;
 }
 
 bool Lines::last(co::Chars *line) {
     if (total == 0) return false;
-    *line = strings ? co::stringAt(strings, strings->length - 1)->view() : widen(lastPlace);
+    *line = view(lastPlace);
     return true;
 }
 

@@ -72,6 +72,8 @@ struct HeaderEntry {
 // A member of the fragment like a co::Slot: copies share, changes make private.
 class HeaderTable {
 public:
+    static constexpr uint64_t references = 1;
+
     // Reads header lines into an empty table: all of them, or those up to an empty line. What follows that line stays. False
     // where a line is none of a header, or not UTF-8.
     bool tryDecode(std::string_view *rest, bool untilEmptyLine);
@@ -94,10 +96,6 @@ public:
     uint8_t *encode(uint8_t *to, std::string_view contentLengthLine) const;
     int64_t encodedLength() const;
 
-    void init() { headers.init(); }
-    void copy(HeaderTable const &source) { headers.copy(source.headers); }
-    void poison() { headers.poison(); }
-
 private:
     friend class Lines;
     HeaderEntry const *find(co::Chars name) const;
@@ -116,24 +114,39 @@ public:
     ~Lines();
 
     int64_t count() const { return total; }
-    // How many code points the lines hold at most, where they are few; 0 where they are many.
-    int64_t room() const;
     // The next line, and the last one; good until another is read. False when there is none.
     bool next(co::Chars *line);
     bool last(co::Chars *line);
     void restart() { place = firstPlace; }
 
+    // The same into memory of the caller's, so that an object reads its line where it keeps it: text that was just
+    // written and is copied at once costs more than widening it.
+    bool next(coChar *to, co::Chars *line);
+    co::Chars last(coChar *to) const { return copy(lastPlace, to); } // there must be one
+    co::Chars again(coChar *to) const { return copy(current, to); }  // what was the next line
+    // How many code points they hold at most: the last line, the one that was the next, and all, where they are few; 0
+    // where they are many.
+    int64_t lastRoom() const { return length(lastPlace); }
+    int64_t currentRoom() const { return length(current); }
+    int64_t room() const;
+
 private:
     static constexpr int64_t usualLength = 256;
 
     Lines(HeaderSet const *set, HeaderEntry const *entry);
-    co::Chars widen(uint32_t index);
+    void useStrings(coVector const *lines);
+    bool step(); // to the next line
+    uint32_t behind(uint32_t index) const;
+    co::Chars view(uint32_t index);
+    co::Chars copy(uint32_t index, coChar *to) const;
+    int64_t length(uint32_t index) const; // at most
 
     coVector const *strings = nullptr; // of a raw header, or else
     WireText const *text = nullptr;    // the received bytes
-    uint32_t place = 0;
-    uint32_t firstPlace = 0;
-    uint32_t lastPlace = 0;
+    uint32_t place = noLine;           // of the next line
+    uint32_t current = noLine;
+    uint32_t firstPlace = noLine;
+    uint32_t lastPlace = noLine;
     int64_t total = 0;
     coChar *heap = nullptr;
     int64_t capacity;

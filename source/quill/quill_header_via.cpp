@@ -7,4 +7,4 @@
 #include <quill/quill_readers.hpp>
 #include <quill/quill_via.h>
 
-QUILL_DEFINE_READ_VALUE_LIST_HEADER(Via, VIA, Via, via, quill___SkipVia, quill::readVia)
+QUILL_DEFINE_READ_VALUE_LIST_HEADER(Via, VIA, Via, via, quill___SkipVia, quill::viaKind)

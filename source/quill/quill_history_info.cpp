@@ -59,9 +59,11 @@ struct coString *quill___HistoryInfoEncode(struct quillHistoryInfo const *histor
 }
 
 // The index may be anywhere among the parameters, but has to be there.
+static bool readHistoryInfo(quillHistoryInfo *historyInfo, co::Chars *line) {
+    return quill::readAddress(historyInfo, line, quill::Bare::refused, lifted) && historyInfo->index;
+}
+
 struct quillHistoryInfo *quill___HistoryInfoTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Ref<quillHistoryInfo> historyInfo(
-        quill::tryDecodeAddress<quillHistoryInfo>(co::chars(chs, length), quill::Bare::refused, lifted));
-    return historyInfo && historyInfo->index ? historyInfo.take() : nullptr;
+    return quill::tryReadWhole<quillHistoryInfo>(co::chars(chs, length), readHistoryInfo);
 }

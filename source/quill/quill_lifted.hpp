@@ -66,12 +66,8 @@ template <class T> void keep(T *value, co::TextSlot T::*field, co::Chars text, N
     (value->*field).adopt(normalize(found.get()));
 }
 
-// A new value without anything but the line that it is to be read from, of which the caller goes on with the value's own.
-template <class T> T *makeParametric(co::Chars *line) {
-    T *value = co::makeWithLine<T>(line);
-    value->genericParams.set(noGenericParams());
-    return value;
-}
+// Reads a value that has nothing yet at the start of its own line, which then goes on behind it. False where it is none.
+template <class T> using ValueReader = bool (*)(T *value, co::Chars *line);
 
 inline void appendParam(coString **text, co::Chars name) { co::append(text, {U";", name}); }
 
@@ -199,6 +195,7 @@ template <class T> FlagParam(co::Chars, Behind, co::Flag T::*) -> FlagParam<T>;
 // *( SEMI parameter ) at the start of the text: the first row that matches takes a parameter, or else it is a generic
 // one. What is behind the last parameter.
 template <class T, class... Rows> co::Chars readParams(T *value, co::Chars rest, std::tuple<Rows...> const &lifted) {
+    value->genericParams.set(noGenericParams());
     while (!rest.empty()) {
         co::Chars text = rest;
         int64_t const separator = matched(rules::semi(text));
@@ -218,7 +215,13 @@ template <class T, class... Rows> bool takeParams(T *value, co::Chars text, std:
     return readParams(value, text, lifted).empty();
 }
 
-// The value that a text is as a whole.
+// The value that a text is as a whole, or null.
+template <class T> T *tryReadWhole(co::Chars text, std::type_identity_t<ValueReader<T>> read) {
+    co::Ref<T> value(co::makeWithLine<T>(&text));
+    return read(value.get(), &text) && text.empty() ? value.take() : nullptr;
+}
+
+// The same with a reader that makes the value; the text goes on behind it.
 template <class T> T *tryReadWhole(co::Chars text, T *(*read)(co::Chars *)) {
     co::Ref<T> value(read(&text));
     return text.empty() ? value.take() : nullptr;

@@ -85,20 +85,19 @@ template <class T, class... Rows> coString *encodeAddress(T const &value, std::t
     return text;
 }
 
-// A new value from the address and the parameters at the start of a text, which then goes on behind them, or null.
-template <class T, class... Rows> T *readAddress(co::Chars *text, Bare bare, std::tuple<Rows...> const &lifted) {
-    co::Chars line = *text;
-    co::Ref<T> value(makeParametric<T>(&line));
-    int64_t const count = takeNameAddr(value.get(), line, bare);
-    if (count == 0) return nullptr;
-    *text = from(*text, co::length(line) - co::length(readParams(value.get(), from(line, count), lifted)));
-    return value.take();
+// The address and the parameters at the start of the value's own line, which then goes on behind them. False where there
+// is no address.
+template <class T, class... Rows>
+bool readAddress(T *value, co::Chars *line, Bare bare, std::tuple<Rows...> const &lifted) {
+    int64_t const count = takeNameAddr(value, *line, bare);
+    *line = count > 0 ? readParams(value, from(*line, count), lifted) : *line;
+    return count > 0;
 }
 
-// The same of a whole text.
-template <class T, class... Rows> T *tryDecodeAddress(co::Chars text, Bare bare, std::tuple<Rows...> const &lifted) {
-    co::Ref<T> value(readAddress<T>(&text, bare, lifted));
-    return text.empty() ? value.take() : nullptr;
+// Whether the whole line is such.
+template <class T, class... Rows>
+bool takeAddress(T *value, co::Chars line, Bare bare, std::tuple<Rows...> const &lifted) {
+    return readAddress(value, &line, bare, lifted) && line.empty();
 }
 
 } // namespace quill

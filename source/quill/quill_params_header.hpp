@@ -10,7 +10,7 @@
 
 // The value is a text: `skip` measures it, `normalize` gives it as it is kept.
 #define QUILL_DEFINE_TEXT_AND_PARAMS_HEADER(Type, SORT, Part, part, ok, skip, normalize, lifted)                       \
-    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    QUILL_DEFINE_LINE_HEADER(Type, SORT)                                                                               \
     CO_DEFINE_STRING_MEMBER(quillHeader##Type, hdr, Part, part, ok, part, normalize)                                   \
     CO_DEFINE_OBJECT_MEMBER(quillHeader##Type, hdr, GenericParams, genericParams, quillGenericParams, genericParams)   \
     struct quillHeader##Type *quillHeader##Type##Create(struct coString *part) {                                       \
@@ -24,12 +24,11 @@
         co::append(text, hdr->part.view());                                                                            \
         quill::appendParams(text, *hdr, lifted);                                                                       \
     }                                                                                                                  \
-    static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
-        co::Ref<struct quillHeader##Type> hdr(quill::makeParametric<struct quillHeader##Type>(&line));                 \
+    static bool readValue(struct quillHeader##Type *hdr, co::Chars line) {                                             \
         int64_t const count = quill::measure(skip, line);                                                              \
-        if (count == 0) return nullptr;                                                                                \
-        quill::keep(hdr.get(), &quillHeader##Type::part, quill::upTo(line, count), normalize);                         \
-        return quill::takeParams(hdr.get(), quill::from(line, count), lifted) ? hdr.take() : nullptr;                  \
+        if (count == 0) return false;                                                                                  \
+        quill::keep(hdr, &quillHeader##Type::part, quill::upTo(line, count), normalize);                               \
+        return quill::takeParams(hdr, quill::from(line, count), lifted);                                               \
     }
 
 // The value is a number of seconds.

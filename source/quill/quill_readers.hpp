@@ -1,13 +1,23 @@
-// Values read off the beginning of a text, which then goes on behind them; null where no value begins it.
+// The values that lists begin with, which nearly everybody who decodes a list asks for. A list makes such a value with
+// room for the line, puts the line there, and reads it.
 #pragma once
 
-#include <co/co_string.hpp>
-#include <quill/quill_types.h>
+#include <quill/quill_lifted.hpp>
 
 namespace quill {
 
-struct quillContact *readContact(co::Chars *text);
-struct quillRoute *readRoute(co::Chars *text); // as a list has it: in brackets
-struct quillVia *readVia(co::Chars *text);
+struct ValueKind {
+    coObj *(*make)(int64_t lineLength);
+    bool (*read)(coObj *value, co::Chars *line); // the value at the start of its own line, which then goes on behind it
+};
+
+extern ValueKind const contactKind;
+extern ValueKind const routeKind; // as a list has it: in brackets
+extern ValueKind const viaKind;
+
+template <class T, ValueReader<T> readValue> constexpr ValueKind valueKind() {
+    return {[](int64_t lineLength) { return co::header(co::make<T>(lineLength)); },
+            [](coObj *value, co::Chars *line) { return readValue(static_cast<T *>(value), line); }};
+}
 
 } // namespace quill

@@ -57,12 +57,15 @@ struct coString *quill___ReasonEncode(struct quillReason const *reason) {
     return text;
 }
 
+static bool readReason(quillReason *reason, co::Chars *line) {
+    int64_t const count = quill::measure(quill___SkipReasonProtocol, *line);
+    if (count == 0) return false;
+    co::keep(reason, &quillReason::protocol, quill::upTo(*line, count));
+    *line = quill::readParams(reason, quill::from(*line, count), lifted);
+    return true;
+}
+
 struct quillReason *quill___ReasonTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars text = co::chars(chs, length);
-    int64_t const count = quill::measure(quill___SkipReasonProtocol, text);
-    if (count == 0) return nullptr;
-    co::Ref<quillReason> reason(quill::makeParametric<quillReason>(&text));
-    co::keep(reason.get(), &quillReason::protocol, quill::upTo(text, count));
-    return quill::takeParams(reason.get(), quill::from(text, count), lifted) ? reason.take() : nullptr;
+    return quill::tryReadWhole<quillReason>(co::chars(chs, length), readReason);
 }

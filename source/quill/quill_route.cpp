@@ -40,11 +40,16 @@ struct coString *quill___RouteEncode(struct quillRoute const *route) {
     return quill::encodeAddress(*route, lifted);
 }
 
-struct quillRoute *quill::readRoute(co::Chars *text) {
-    return readAddress<quillRoute>(text, Bare::refused, lifted);
+static bool readInBrackets(quillRoute *route, co::Chars *line) {
+    return quill::readAddress(route, line, quill::Bare::refused, lifted);
 }
+static bool readRoute(quillRoute *route, co::Chars *line) {
+    return quill::readAddress(route, line, quill::Bare::allowed, lifted);
+}
+
+constinit quill::ValueKind const quill::routeKind = valueKind<quillRoute, readInBrackets>();
 
 struct quillRoute *quill___RouteTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    return quill::tryDecodeAddress<quillRoute>(co::chars(chs, length), quill::Bare::allowed, lifted);
+    return quill::tryReadWhole<quillRoute>(co::chars(chs, length), readRoute);
 }

@@ -99,11 +99,14 @@ static int64_t takeUuiData(quillUuiValue *uuiValue, co::Chars text) {
     return uuiValue->uuiData ? quoted : 0;
 }
 
+static bool readUuiValue(quillUuiValue *uuiValue, co::Chars *line) {
+    int64_t const count = takeUuiData(uuiValue, *line);
+    if (count == 0) return false;
+    *line = quill::readParams(uuiValue, quill::from(*line, count), lifted);
+    return true;
+}
+
 struct quillUuiValue *quill___UuiValueTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    co::Chars text = co::chars(chs, length);
-    co::Ref<quillUuiValue> uuiValue(quill::makeParametric<quillUuiValue>(&text));
-    int64_t const count = takeUuiData(uuiValue.get(), text);
-    if (count == 0) return nullptr;
-    return quill::takeParams(uuiValue.get(), quill::from(text, count), lifted) ? uuiValue.take() : nullptr;
+    return quill::tryReadWhole<quillUuiValue>(co::chars(chs, length), readUuiValue);
 }

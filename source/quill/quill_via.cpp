@@ -280,21 +280,21 @@ static quillVersion *takeVersion(quill::Reader *reader) {
 }
 
 // sent-protocol LWS sent-by *( SEMI via-params ); sent-by = host [ COLON port ]
-struct quillVia *quill::readVia(co::Chars *text) {
-    co::Chars line = *text;
-    co::Ref<quillVia> via(makeParametric<quillVia>(&line));
-    Reader reader{line};
+static bool readVia(quillVia *via, co::Chars *line) {
+    quill::Reader reader{*line};
     via->version.adopt(takeVersion(&reader));
-    co::Chars const transport = reader.take(rules::token);
-    reader.take(rules::lws);
-    if (reader.failed || !via->version) return nullptr;
-    if (!takeHost(via.get(), &reader) || !takePort(via.get(), &reader)) return nullptr;
-    co::keepLower(via.get(), &quillVia::transport, transport);
-    *text = from(*text, co::length(line) - co::length(readParams(via.get(), reader.rest, lifted)));
-    return via.take();
+    co::Chars const transport = reader.take(quill::rules::token);
+    reader.take(quill::rules::lws);
+    if (reader.failed || !via->version) return false;
+    if (!takeHost(via, &reader) || !takePort(via, &reader)) return false;
+    co::keepLower(via, &quillVia::transport, transport);
+    *line = quill::readParams(via, reader.rest, lifted);
+    return true;
 }
+
+constinit quill::ValueKind const quill::viaKind = valueKind<quillVia, readVia>();
 
 struct quillVia *quill___ViaTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    return quill::tryReadWhole(co::chars(chs, length), quill::readVia);
+    return quill::tryReadWhole<quillVia>(co::chars(chs, length), readVia);
 }
