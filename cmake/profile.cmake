@@ -1,0 +1,62 @@
+# The library compiled for what it mostly does (gcc). A second build, in counted/, holds the library with counters and a
+# program that does with the samples what a proxy does; by its counts this build lays out and inlines the code, across
+# units in the shared library.
+#
+# The profile is made anew when a source changes, of the very sources that it is for; nothing of it is installed.
+
+set(QUILL_COUNTED ${PROJECT_BINARY_DIR}/counted)
+
+# In the build in counted/: the program that counts.
+function(quill_count)
+  target_compile_options(quill_objects PRIVATE -fprofile-generate)
+  target_link_options(quill_shared PRIVATE -fprofile-generate)
+  add_executable(count ${PROJECT_SOURCE_DIR}/source/profile/profile.cpp)
+  target_link_libraries(count PRIVATE quill_shared)
+  set_target_properties(count PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+endfunction()
+
+# In the build that is for use: what waits for the counts, and is compiled by them.
+function(quill_use_counts)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/source/*)
+  file(GLOB samples CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/samples/*.sip)
+  set(counts ${PROJECT_BINARY_DIR}/counts.stamp)
+  set(place ${PROJECT_SOURCE_DIR}/cmake/place_counts.cmake)
+  set(objects source/CMakeFiles/quill_objects.dir)
+  add_custom_command(
+    OUTPUT ${counts}
+    COMMAND
+      ${CMAKE_COMMAND} -S ${PROJECT_SOURCE_DIR} -B ${QUILL_COUNTED} -G ${CMAKE_GENERATOR} -DQUILL_PROFILE=count
+      -DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE} -DCMAKE_C_COMPILER=${CMAKE_C_COMPILER}
+      -DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER} -DQUILL_TOOLS=OFF -DQUILL_TESTS=OFF -DQUILL_BENCH=OFF
+    COMMAND ${CMAKE_COMMAND} --build ${QUILL_COUNTED} --target count
+    COMMAND find ${QUILL_COUNTED}/${objects} -name *.gcda -delete
+    COMMAND ${QUILL_COUNTED}/count ${samples}
+    COMMAND ${CMAKE_COMMAND} -DFROM=${QUILL_COUNTED}/${objects} -DTO=${PROJECT_BINARY_DIR}/${objects} -P ${place}
+    COMMAND ${CMAKE_COMMAND} -E touch ${counts}
+    DEPENDS ${sources} ${samples} ${place} ${PROJECT_SOURCE_DIR}/cmake/profile.cmake
+    COMMENT "Counting what runs how often"
+    VERBATIM)
+  add_custom_target(quill_counts DEPENDS ${counts})
+  add_dependencies(quill_objects quill_counts)
+  get_target_property(units quill_objects SOURCES)
+  set_source_files_properties(${units} TARGET_DIRECTORY quill_objects PROPERTIES OBJECT_DEPENDS ${counts})
+
+  # What no sample reaches is compiled as if there were no profile; a unit without code has none.
+  set(options -fprofile-use -fprofile-partial-training -fprofile-correction -Wno-missing-profile -flto=auto)
+  target_compile_options(quill_objects PRIVATE ${options} -ffat-lto-objects)
+  target_link_options(quill_shared PRIVATE -O3 ${options})
+
+  # The static library is for linkers of every kind: it keeps the machine code alone.
+  add_custom_command(
+    TARGET quill_static
+    POST_BUILD
+    COMMAND ${CMAKE_OBJCOPY} --wildcard --remove-section=.gnu.lto_* --remove-section=.gnu.debuglto_*
+            $<TARGET_FILE:quill_static>
+    VERBATIM)
+endfunction()
+
+if(QUILL_PROFILE STREQUAL "count")
+  quill_count()
+elseif(QUILL_PROFILE)
+  quill_use_counts()
+endif()
