@@ -14,7 +14,7 @@ QUILL_DEFINE_SCALAR_LIST_ACCESS(ContentEncoding, ContentCoding, contentCoding, q
 struct quillMessageHeader *quillHeaderContentEncodingEncode(struct quillHeaderContentEncoding const *hdr) {
     CO_ASSERT_GIVEN(hdr);
     co::Ref<coVector> const codings(hdr->elements.vector());
-    return quill::makeHeaderOfJoined(quill___CosContentEncoding, codings.get(), U",");
+    return quill::makeHeaderOfJoined(quill::known::ContentEncoding, codings.get(), U",");
 }
 
 static quillHeaderContentEncoding *tryDecodeLines(quill::Lines &lines) {

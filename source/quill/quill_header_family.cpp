@@ -5,21 +5,18 @@
 
 namespace quill {
 
-// The names of typed headers are known: the string that all messages share.
-static struct quillMessageHeader *makeHeader(coString const *name) {
-    return makeMessageHeader(fieldNameAt(knownFieldName(name->view())));
-}
+static struct quillMessageHeader *makeHeader(int known) { return makeMessageHeader(fieldNameAt(known)); }
 
-struct quillMessageHeader *makeHeaderOfLine(coString *name, coString *line) {
+struct quillMessageHeader *makeHeaderOfLine(int known, coString *line) {
     co::Ref<coString> const taken(line);
-    struct quillMessageHeader *header = makeHeader(name);
+    struct quillMessageHeader *header = makeHeader(known);
     quillMessageHeaderAppendLine(&header, taken.get());
     return header;
 }
 
-struct quillMessageHeader *makeHeaderOfLines(coString *name, coVector *texts) {
+struct quillMessageHeader *makeHeaderOfLines(int known, coVector *texts) {
     co::Ref<coVector> const taken(texts);
-    struct quillMessageHeader *header = makeHeader(name);
+    struct quillMessageHeader *header = makeHeader(known);
     quillMessageHeaderSetLinesVector(&header, taken.get());
     return header;
 }
@@ -64,23 +61,23 @@ static void appendJoined(coString **line, co::Chars text, co::Chars delimiter) {
     co::append(line, text);
 }
 
-static struct quillMessageHeader *makeHeaderUnlessEmpty(coString *name, coString *line) {
-    if (line->length > 0) return makeHeaderOfLine(name, line);
+static struct quillMessageHeader *makeHeaderUnlessEmpty(int known, coString *line) {
+    if (line->length > 0) return makeHeaderOfLine(known, line);
     co::release(line);
-    return makeHeader(name);
+    return makeHeader(known);
 }
 
-struct quillMessageHeader *makeHeaderOfJoined(coString *name, coVector const *texts, co::Chars delimiter) {
+struct quillMessageHeader *makeHeaderOfJoined(int known, coVector const *texts, co::Chars delimiter) {
     coString *line = coStringCreate();
     for (int64_t i = 0; i < texts->length; i++) appendJoined(&line, co::stringAt(texts, i)->view(), delimiter);
-    return makeHeaderUnlessEmpty(name, line);
+    return makeHeaderUnlessEmpty(known, line);
 }
 
-struct quillMessageHeader *makeHeaderOfJoined(coString *name, coDict const *keys, co::Chars delimiter) {
+struct quillMessageHeader *makeHeaderOfJoined(int known, coDict const *keys, co::Chars delimiter) {
     coString *line = coStringCreate();
     co::DictWalk walk(keys);
     for (co::DictEntry entry; walk.next(&entry);) appendJoined(&line, entry.key->view(), delimiter);
-    return makeHeaderUnlessEmpty(name, line);
+    return makeHeaderUnlessEmpty(known, line);
 }
 
 } // namespace quill

@@ -37,8 +37,8 @@ enum : int { QUILL_TYPED_HEADERS(QUILL_FIELD) };
 
 inline constexpr int64_t usualValueLength = 32; // of a single value that is written
 
-// A raw header with one line, which is taken over.
-struct quillMessageHeader *makeHeaderOfLine(coString *name, coString *line);
+// A raw header of the typed header of a number (known::Type), with one line, which is taken over.
+struct quillMessageHeader *makeHeaderOfLine(int known, coString *line);
 
 // No line is the empty text, one line itself, more the text of their vector.
 coString *textOfLines(struct quillMessageHeader const *header);
@@ -98,7 +98,7 @@ template <class H> H *tryDecodeList(Lines &lines, Scanner element, Normalizer no
 }
 
 // A raw header with a line for each text, the vector of which is taken over.
-struct quillMessageHeader *makeHeaderOfLines(coString *name, coVector *texts);
+struct quillMessageHeader *makeHeaderOfLines(int known, coVector *texts);
 
 template <class H> void clearList(H **hdr) { co::writable(hdr)->elements.clear(); }
 
@@ -190,8 +190,8 @@ template <class H> void setEach(H **hdr, coVector const *vec, void (*set)(H **, 
 }
 
 // All texts of a vector, or keys of a dictionary, on one line; no line where there are none.
-struct quillMessageHeader *makeHeaderOfJoined(coString *name, coVector const *texts, co::Chars delimiter);
-struct quillMessageHeader *makeHeaderOfJoined(coString *name, coDict const *keys, co::Chars delimiter);
+struct quillMessageHeader *makeHeaderOfJoined(int known, coVector const *texts, co::Chars delimiter);
+struct quillMessageHeader *makeHeaderOfJoined(int known, coDict const *keys, co::Chars delimiter);
 
 // The value that the last line holds as a whole, or null.
 template <class H> H *tryReadLast(Lines &lines, bool (*read)(H *, co::Chars)) {
@@ -276,7 +276,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
         CO_ASSERT_GIVEN(hdr);                                                                                          \
         coString *line = co::makeString(quill::usualValueLength);                                                      \
         appendValue(&line, hdr);                                                                                       \
-        return quill::makeHeaderOfLine(quill___Cos##Type, line);                                                       \
+        return quill::makeHeaderOfLine(quill::known::Type, line);                                                      \
     }
 
 // A single value that keeps the line it is read from. The unit defines, besides the struct and its members, appendValue
@@ -310,7 +310,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
 #define QUILL_DEFINE_LIST_ENCODE(Type)                                                                                 \
     struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        return quill::makeHeaderOfLines(quill___Cos##Type, hdr->elements.vector());                                    \
+        return quill::makeHeaderOfLines(quill::known::Type, hdr->elements.vector());                                   \
     }
 
 #define QUILL_DEFINE_LIST_CODEC(Type, skip)                                                                            \
@@ -412,7 +412,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     }                                                                                                                  \
     struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        return quill::makeHeaderOfJoined(quill___Cos##Type, hdr->tokens.get(), delimiter);                             \
+        return quill::makeHeaderOfJoined(quill::known::Type, hdr->tokens.get(), delimiter);                            \
     }                                                                                                                  \
     static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
         return quill::tryDecodeSet<struct quillHeader##Type>(lines, skip, separator, normalize);                       \
