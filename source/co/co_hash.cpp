@@ -8,6 +8,8 @@
 #include <co/co_hash.hpp>
 #include <sys/random.h>
 
+using co::Chars;
+
 namespace {
 
 struct SipState {
@@ -66,13 +68,32 @@ uint64_t settled(std::atomic<uint64_t> &half) {
 
 } // namespace
 
-uint64_t co::sipHash(HashKey key, Chars text) {
-    SipState state(key);
+// The characters of a text of US-ASCII that make a word, the first one in the lowest byte.
+static uint64_t packed(Chars ascii) {
+    uint64_t word = 0;
+    for (size_t i = 0; i < ascii.size(); i++) word |= uint64_t{ascii[i]} << (8 * i);
+    return word;
+}
+
+static uint64_t hashBytes(SipState state, Chars ascii) {
+    size_t at = 0;
+    for (; at + 8 <= ascii.size(); at += 8) state.absorb(packed(ascii.substr(at, 8)));
+    state.absorb(packed(ascii.substr(at)) | static_cast<uint64_t>(ascii.size()) << 56);
+    return state.finish();
+}
+
+static uint64_t hashWide(SipState state, Chars text) {
     size_t const even = text.size() & ~size_t{1};
     for (size_t i = 0; i < even; i += 2) state.absorb(uint64_t{text[i]} | uint64_t{text[i + 1]} << 32);
     uint64_t const last = even < text.size() ? uint64_t{text[even]} : 0;
     state.absorb(last | static_cast<uint64_t>(text.size() * sizeof(coChar)) << 56);
     return state.finish();
+}
+
+uint64_t co::sipHash(HashKey key, Chars text) {
+    coChar all = 0;
+    for (coChar const ch : text) all |= ch;
+    return all < 0x80 ? hashBytes(SipState(key), text) : hashWide(SipState(key), text);
 }
 
 co::HashKey co::processHashKey() {
