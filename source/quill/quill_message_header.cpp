@@ -74,6 +74,14 @@ struct coString *quillMessageHeaderNameNormalize(struct coString const *name) {
     return quill::tryNormalizeFieldName(name->view());
 }
 
+coString *quill::normalizeHeaderName(char const *name, int64_t length) {
+    std::string_view const bytes = name && length >= 0    ? std::string_view(name, static_cast<size_t>(length))
+                                   : name && length == -1 ? std::string_view(name)
+                                                          : std::string_view();
+    coString *normal = tryNormalizeFieldName(bytes);
+    return normal ? normal : quillMessageHeaderNameNormalize(co::Text(name, length));
+}
+
 bool quillMessageHeaderLineOk(struct coString const *line) {
     CO_ASSERT_GIVEN(line);
     co::Chars const text = line->view();
