@@ -68,18 +68,17 @@ uint64_t settled(std::atomic<uint64_t> &half) {
 
 } // namespace
 
-// The characters of a text of US-ASCII that make a word, the first one in the lowest byte.
-static uint64_t packed(Chars ascii) {
+// Up to eight characters as the bytes of a word, the first one in the lowest; what is more than a byte of one shows in
+// `all` of them.
+static uint64_t packed(Chars text, coChar *all) {
     uint64_t word = 0;
-    for (size_t i = 0; i < ascii.size(); i++) word |= uint64_t{ascii[i]} << (8 * i);
+    int shift = 0;
+    for (coChar const ch : text) {
+        *all |= ch;
+        word |= uint64_t{ch} << shift;
+        shift += 8;
+    }
     return word;
-}
-
-static uint64_t hashBytes(SipState state, Chars ascii) {
-    size_t at = 0;
-    for (; at + 8 <= ascii.size(); at += 8) state.absorb(packed(ascii.substr(at, 8)));
-    state.absorb(packed(ascii.substr(at)) | static_cast<uint64_t>(ascii.size()) << 56);
-    return state.finish();
 }
 
 static uint64_t hashWide(SipState state, Chars text) {
@@ -91,9 +90,12 @@ static uint64_t hashWide(SipState state, Chars text) {
 }
 
 uint64_t co::sipHash(HashKey key, Chars text) {
+    SipState state(key);
     coChar all = 0;
-    for (coChar const ch : text) all |= ch;
-    return all < 0x80 ? hashBytes(SipState(key), text) : hashWide(SipState(key), text);
+    size_t at = 0;
+    for (; at + 8 <= text.size(); at += 8) state.absorb(packed(text.substr(at, 8), &all));
+    state.absorb(packed(text.substr(at), &all) | static_cast<uint64_t>(text.size()) << 56);
+    return all < 0x80 ? state.finish() : hashWide(SipState(key), text);
 }
 
 co::HashKey co::processHashKey() {

@@ -434,12 +434,17 @@ bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine) {
 
 // Reading.
 
-HeaderEntry const *HeaderTable::find(co::Chars name) const {
+HeaderEntry const *HeaderTable::find(co::Chars name, int known) const {
     HeaderSet const *set = headers.get();
-    if (!set) return nullptr;
-    uint32_t const place = set->find(name, knownFieldName(name));
+    uint32_t const place = set ? set->find(name, known) : noEntry;
     return place == noEntry ? nullptr : &set->entries[place];
 }
+
+HeaderEntry const *HeaderTable::find(co::Chars name) const { return find(name, knownFieldName(name)); }
+
+static int knownNumber(coString const *normal) { return co::isImmortal(normal) ? knownFieldName(normal->view()) : -1; }
+
+HeaderEntry const *HeaderTable::find(coString const *normal) const { return find(normal->view(), knownNumber(normal)); }
 
 HeaderEntry const *HeaderTable::find(int known) const {
     HeaderSet const *set = headers.get();
@@ -471,6 +476,11 @@ static struct quillMessageHeader *makeHeader(HeaderSet const *set, HeaderEntry c
 
 struct quillMessageHeader *HeaderTable::header(co::Chars name) const {
     HeaderEntry const *entry = find(name);
+    return entry ? makeHeader(headers.get(), *entry) : nullptr;
+}
+
+struct quillMessageHeader *HeaderTable::header(coString const *normal) const {
+    HeaderEntry const *entry = find(normal);
     return entry ? makeHeader(headers.get(), *entry) : nullptr;
 }
 
@@ -563,8 +573,9 @@ void HeaderTable::set(struct quillMessageHeader *header) {
     if (struct quillMessageHeader *old = std::exchange(entry.header, co::retained(header))) co::release(old);
 }
 
-void HeaderTable::remove(co::Chars name) {
-    int const known = knownFieldName(name);
+void HeaderTable::remove(coString const *normal) {
+    co::Chars const name = normal->view();
+    int const known = knownNumber(normal);
     if (!headers || headers->find(name, known) == noEntry) return;
     HeaderSet *set = writable(&headers);
     set->remove(set->find(name, known)); // a copy has other places

@@ -246,11 +246,11 @@ struct coVector *quillMessageFragmentHeadersVector(struct quillMessageFragment c
     Result Fn##Wcstr(Fragment frag, wchar_t const *name, int64_t length) { return Fn(frag, co::Text(name, length)); }
 
 BY_NAME(struct quillMessageHeader *, quillMessageFragmentHeader, struct quillMessageFragment const *, CO_ASSERT_GIVEN,
-        frag->headers.header(normal->view()))
+        frag->headers.header(normal.get()))
 BY_NAME(bool, quillMessageFragmentHasHeader, struct quillMessageFragment const *, CO_ASSERT_GIVEN,
-        frag->headers.has(normal->view()))
+        frag->headers.has(normal.get()))
 BY_NAME(void, quillMessageFragmentDelHeader, struct quillMessageFragment **, CO_ASSERT_REFERENCE,
-        co::writable(frag)->headers.remove(normal->view()))
+        co::writable(frag)->headers.remove(normal.get()))
 
 void quillMessageFragmentSetHeader(struct quillMessageFragment **frag, struct quillMessageHeader *header) {
     CO_ASSERT_REFERENCE(frag);
