@@ -65,7 +65,7 @@ struct HeaderSet : coObj {
     int64_t length;
     int64_t capacity;
     int64_t unknown;  // entries of other names, with gaps
-    uint32_t *slots;  // of other names, open addressing; null while they are few
+    uint32_t *slots;  // of other names, open addressing, a quarter taken at most; null while they are few
     int64_t slotMask; // their number is a power of two
     bool counts;      // some entry holds a reference
     bool hashed;      // entries of other names have their hashes
@@ -162,7 +162,7 @@ void HeaderSet::indexAll() {
     slots = nullptr;
     if (unknown <= fewUnknown) return;
     int64_t slotCount = 64;
-    while (slotCount < unknown * 4) slotCount *= 2;
+    while (slotCount < unknown * 8) slotCount *= 2;
     slots = static_cast<uint32_t *>(coMemAllocN(slotCount, sizeof(uint32_t)));
     std::fill(slots, slots + slotCount, noEntry);
     slotMask = slotCount - 1;
@@ -188,7 +188,7 @@ void HeaderSet::indexLast(uint32_t hash) {
     unknown++;
     counts = true;
     entries[used - 1].hash = hash;
-    if (slots ? unknown * 2 > slotMask : unknown > fewUnknown)
+    if (slots ? unknown * 4 > slotMask : unknown > fewUnknown)
         indexAll();
     else if (slots)
         index(static_cast<uint32_t>(used - 1));
