@@ -74,14 +74,22 @@ double timeOf(Work const &work, int repetitions) {
     return best / static_cast<double>(runs);
 }
 
-// One shape at all sizes. Times that break the rule are measured again: the machine may have been busy.
+void pause(int milliseconds) {
+    timespec const time{0, milliseconds * 1000000L};
+    nanosleep(&time, nullptr);
+}
+
+// One shape at all sizes. Times that break the rule are measured again, after ever longer pauses: the machine may have
+// been busy, and what made it so may have filled the caches.
 class Measurement {
 public:
     Measurement(Shape const &measured, Limits const &allowed) : shape(measured), limits(allowed) {
         if (shape.rule == Rule::even) add(1);
         for (int64_t n : limits.sizes) add(n);
-        for (int i = 1; i < attempts && !broken().empty(); i++)
+        for (int i = 1; i < attempts && !broken().empty(); i++) {
+            pause(1 << i);
             for (Point &point : points) retry(point);
+        }
     }
 
     Shape const &shape;

@@ -140,30 +140,46 @@ static int64_t capacityFor(int64_t length, int64_t more) {
     return more == 0 ? length : std::max(length + more, length + length / 2 + 32);
 }
 
-uint8_t *co::appendSpace(coBuffer **reference, int64_t more) {
-    coBuffer *buffer = *reference;
-    if (!isUnique(buffer)) {
-        *reference = bufferOf(buffer->begin(), buffer->length, capacityFor(buffer->length, more));
-        release(buffer);
-        buffer = *reference;
-    } else if (buffer->capacity - buffer->head - buffer->length < more) {
-        if (canMoveToFront(buffer) && buffer->capacity - buffer->length >= more)
-            moveToFront(buffer);
-        else
-            grow(buffer, capacityFor(buffer->length, more));
-    }
-    return buffer->bytes + buffer->head + buffer->length;
+// Whether so many bytes can be put behind the buffer's end as it is.
+static bool hasSpace(coBuffer const *buffer, int64_t more) {
+    return co::isUnique(buffer) && buffer->capacity - buffer->head - buffer->length >= more;
 }
 
-// The bytes may be some of the buffer's own: these are found again, by their offset, where the buffer has moved to.
+// Gives the buffer room that it does not have.
+static void makeSpace(coBuffer **reference, int64_t more) {
+    coBuffer *buffer = *reference;
+    if (!co::isUnique(buffer)) {
+        *reference = bufferOf(buffer->begin(), buffer->length, capacityFor(buffer->length, more));
+        co::release(buffer);
+    } else if (canMoveToFront(buffer) && buffer->capacity - buffer->length >= more) {
+        moveToFront(buffer);
+    } else {
+        grow(buffer, capacityFor(buffer->length, more));
+    }
+}
+
+uint8_t *co::appendSpace(coBuffer **buffer, int64_t more) {
+    if (!hasSpace(*buffer, more)) makeSpace(buffer, more);
+    return (*buffer)->end();
+}
+
+// The bytes may be some of the buffer's own: these are found again, by their offset, where the buffer has moved to. Apart,
+// so that an append that finds room is short.
+[[gnu::noinline]] static uint8_t const *makeSpaceFor(coBuffer **buffer, std::string_view bytes) {
+    auto const *source = reinterpret_cast<uint8_t const *>(bytes.data());
+    auto const offset = reinterpret_cast<uintptr_t>(source) - reinterpret_cast<uintptr_t>((*buffer)->begin());
+    bool const own = offset < static_cast<uintptr_t>((*buffer)->length);
+    makeSpace(buffer, static_cast<int64_t>(bytes.size()));
+    return own ? (*buffer)->begin() + offset : source;
+}
+
 void co::append(coBuffer **buffer, std::string_view bytes) {
     auto const *source = reinterpret_cast<uint8_t const *>(bytes.data());
     auto const count = static_cast<int64_t>(bytes.size());
-    auto const offset = reinterpret_cast<uintptr_t>(source) - reinterpret_cast<uintptr_t>((*buffer)->begin());
-    bool const own = offset < static_cast<uintptr_t>((*buffer)->length);
-    uint8_t *room = appendSpace(buffer, count);
-    copyBytes(room, own ? (*buffer)->begin() + offset : source, count);
-    (*buffer)->length += count;
+    if (!hasSpace(*buffer, count)) source = makeSpaceFor(buffer, bytes);
+    uint8_t *end = (*buffer)->end();
+    (*buffer)->length += count; // first: it need not wait for the copy
+    copyBytes(end, source, count);
 }
 
 void coBufferAppend(struct coBuffer **buffer, struct coBuffer const *other) {

@@ -15,6 +15,7 @@ struct coBuffer : coObj {
     int64_t capacity;
 
     uint8_t const *begin() const { return bytes + head; }
+    uint8_t *end() { return bytes + head + length; }
     std::string_view view() const { return {reinterpret_cast<char const *>(begin()), static_cast<size_t>(length)}; }
 };
 

@@ -10,19 +10,29 @@ extern "C" struct coSort const co___sort_CO_DICT;
 
 namespace co {
 
-// An immortal dictionary without entries.
-extern coDict emptyDict;
-
 // The value of a key, borrowed, or null.
 coObj *find(coDict const *dict, Chars key);
-
-// Where the value of a key stands, for a change in place, in a dictionary that is the caller's own then; null when there
-// is none. Good until the dictionary changes.
-coObj **findSlot(coDict **dict, Chars key);
 
 struct DictEntry {
     coString *key;
     coObj *value;
+
+    bool isGap() const { return !key; }
+    Chars keyText() const { return key->view(); }
+    void retain() const {
+        co::retain(key);
+        co::retain(value);
+    }
+    void release() const {
+        co::release(key);
+        co::release(value);
+    }
+    // The key stays the same string.
+    void replaceBy(DictEntry const &taken) {
+        co::release(std::exchange(value, taken.value));
+        co::release(taken.key);
+    }
+    int compareValue(DictEntry const &other) const { return co::compare(value, other.value); }
 };
 
 // A walk through the entries in order; the dictionary must not change meanwhile.

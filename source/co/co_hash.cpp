@@ -8,6 +8,8 @@
 #include <co/co_hash.hpp>
 #include <sys/random.h>
 
+using co::Chars;
+
 namespace {
 
 struct SipState {
@@ -66,13 +68,34 @@ uint64_t settled(std::atomic<uint64_t> &half) {
 
 } // namespace
 
-uint64_t co::sipHash(HashKey key, Chars text) {
-    SipState state(key);
+// Up to eight characters as the bytes of a word, the first one in the lowest; what is more than a byte of one shows in
+// `all` of them.
+static uint64_t packed(Chars text, coChar *all) {
+    uint64_t word = 0;
+    int shift = 0;
+    for (coChar const ch : text) {
+        *all |= ch;
+        word |= uint64_t{ch} << shift;
+        shift += 8;
+    }
+    return word;
+}
+
+static uint64_t hashWide(SipState state, Chars text) {
     size_t const even = text.size() & ~size_t{1};
     for (size_t i = 0; i < even; i += 2) state.absorb(uint64_t{text[i]} | uint64_t{text[i + 1]} << 32);
     uint64_t const last = even < text.size() ? uint64_t{text[even]} : 0;
     state.absorb(last | static_cast<uint64_t>(text.size() * sizeof(coChar)) << 56);
     return state.finish();
+}
+
+uint64_t co::sipHash(HashKey key, Chars text) {
+    SipState state(key);
+    coChar all = 0;
+    size_t at = 0;
+    for (; at + 8 <= text.size(); at += 8) state.absorb(packed(text.substr(at, 8), &all));
+    state.absorb(packed(text.substr(at), &all) | static_cast<uint64_t>(text.size()) << 56);
+    return all < 0x80 ? state.finish() : hashWide(SipState(key), text);
 }
 
 co::HashKey co::processHashKey() {

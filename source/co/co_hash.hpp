@@ -10,7 +10,8 @@ struct HashKey {
     uint64_t second;
 };
 
-// SipHash-1-3 of the code points, each as four bytes, the least significant one first.
+// SipHash-1-3 of the code points: of US-ASCII alone, each as one byte, or else each as four, the least significant one
+// first.
 uint64_t sipHash(HashKey key, Chars text);
 
 // The key that this process has drawn at random; the same at every call.

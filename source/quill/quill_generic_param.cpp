@@ -3,23 +3,11 @@
 #define CO_UNIT "source/quill/quill_generic_param"
 
 #include <quill/quill_family.hpp>
-#include <quill/quill_generic_param.h>
+#include <quill/quill_generic_param.hpp>
 #include <quill/quill_generic_param_name.h>
 #include <quill/quill_generic_param_value.h>
 #include <quill/quill_lifted.hpp>
 #include <quill/quill_skip.h>
-
-struct quillGenericParam : coObj {
-    static constexpr auto &sort = quill___sort_QUILL_GENERIC_PARAM;
-
-    co::Slot<coString> name;  // never null, lower case
-    co::Int valueType;        // -1 exactly when there is no value
-    co::Slot<coString> value; // as given
-
-    static constexpr auto members() {
-        return std::tuple(&quillGenericParam::name, &quillGenericParam::valueType, &quillGenericParam::value);
-    }
-};
 
 QUILL_DEFINE_SORT(GenericParam, GENERIC_PARAM, quill___GenericParamCompareFunc, quill___GenericParamToStringFunc)
 QUILL_DEFINE_CREATE_FROM(GenericParam)
@@ -42,6 +30,10 @@ int quill___GenericParamCompareFunc(struct coObj const *objA, struct coObj const
     return co::compare(valueA.get(), valueB.get());
 }
 
+static void assertValue(int64_t type, coString const *value) {
+    CO_ASSERT(quillGenericParamValueOk(type, value), "quillGenericParamValueOk( type, value )");
+}
+
 struct quillGenericParam *quillGenericParamCreate(struct coString *name) {
     CO_ASSERT_OK(quillGenericParamNameOk, name);
     auto *param = co::make<quillGenericParam>();
@@ -58,14 +50,21 @@ struct quillGenericParam *quillGenericParamCreateWithValue(struct coString *name
     return param;
 }
 
+// Of texts that no caller has as strings, so that it need not keep them as such.
+static quillGenericParam *createOfTexts(coString *name, int64_t type, coString *value) {
+    CO_ASSERT_OK(quillGenericParamNameOk, name);
+    assertValue(type, value);
+    return quill::makeGenericParam(name->view(), type, value->view());
+}
+
 struct quillGenericParam *quillGenericParamCreateWithValueCstr(char const *name, int64_t nameLength, int64_t type,
                                                                char const *value, int64_t valueLength) {
-    return quillGenericParamCreateWithValue(co::Text(name, nameLength), type, co::Text(value, valueLength));
+    return createOfTexts(co::Text(name, nameLength), type, co::Text(value, valueLength));
 }
 
 struct quillGenericParam *quillGenericParamCreateWithValueWcstr(wchar_t const *name, int64_t nameLength, int64_t type,
                                                                 wchar_t const *value, int64_t valueLength) {
-    return quillGenericParamCreateWithValue(co::Text(name, nameLength), type, co::Text(value, valueLength));
+    return createOfTexts(co::Text(name, nameLength), type, co::Text(value, valueLength));
 }
 
 bool quillGenericParamHasValue(struct quillGenericParam const *param) {
@@ -80,7 +79,8 @@ int64_t quillGenericParamValueType(struct quillGenericParam const *param) {
 
 struct coString *quillGenericParamValueNormalized(struct quillGenericParam const *param) {
     CO_ASSERT_GIVEN(param);
-    return param->value ? quillGenericParamValueNormalize(param->valueType.get(), param->value.get()) : nullptr;
+    co::Ref<coString> const value(param->value.retained());
+    return value ? quillGenericParamValueNormalize(param->valueType.get(), value.get()) : nullptr;
 }
 
 struct coString *quillGenericParamValueNonNormalized(struct quillGenericParam const *param) {
@@ -90,7 +90,7 @@ struct coString *quillGenericParamValueNonNormalized(struct quillGenericParam co
 
 void quillGenericParamSetValue(struct quillGenericParam **param, int64_t type, struct coString *value) {
     CO_ASSERT_REFERENCE(param);
-    CO_ASSERT(quillGenericParamValueOk(type, value), "quillGenericParamValueOk( type, value )");
+    assertValue(type, value);
     quillGenericParam *own = co::writable(param);
     own->valueType.set(type);
     own->value.set(value);
@@ -112,66 +112,91 @@ void quillGenericParamNormalizeValue(struct quillGenericParam **param) {
     own->value.adopt(quillGenericParamValueNormalized(own));
 }
 
-void quill::appendGenericParam(coString **text, quillGenericParam const *param) {
-    co::append(text, param->name->view());
-    coString *const value = param->value.get();
-    if (!value) return;
-    co::append(text, U"=");
+static coString *encodeValue(quillGenericParam const *param) {
+    co::Ref<coString> const value(param->value.retained());
     switch (param->valueType.get()) {
-    case QUILL_GENERIC_PARAM_VALUE_TYPE_TOKEN:
-        return co::append(text, value->view());
     case QUILL_GENERIC_PARAM_VALUE_TYPE_HOST:
-        return co::append(text, co::Ref<coString>(quill___HostEncode(value))->view());
+        return quill___HostEncode(value.get());
     case QUILL_GENERIC_PARAM_VALUE_TYPE_QUOTED_STRING:
-        return co::append(text, co::Ref<coString>(quill___QuotableStringEncode(value))->view());
+        return quill___QuotableStringEncode(value.get());
     default:
         co___Abort("QUILL_GENERIC_PARAM_VALUE_TYPE not implemented", CO_UNIT, __LINE__, "false");
     }
 }
 
+void quill::appendGenericParam(coString **text, co::Chars before, quillGenericParam const *param) {
+    co::Chars const name = param->name.view();
+    if (!param->value) return co::append(text, {before, name});
+    if (param->valueType.get() == QUILL_GENERIC_PARAM_VALUE_TYPE_TOKEN)
+        return co::append(text, {before, name, U"=", param->value.view()});
+    co::append(text, {before, name, U"=", co::Ref<coString>(encodeValue(param))->view()});
+}
+
 struct coString *quill___GenericParamEncode(struct quillGenericParam const *genericParam) {
     CO_ASSERT_GIVEN(genericParam);
     if (!genericParam->value) return genericParam->name.retained();
-    coString *text = co::makeString(genericParam->name->length + 1 + genericParam->value->length);
-    quill::appendGenericParam(&text, genericParam);
+    coString *text = coStringCreate();
+    quill::appendGenericParam(&text, U"", genericParam);
     return text;
 }
 
+struct quillGenericParam *quill::makeGenericParam(co::Chars name, int64_t valueType, co::Chars value) {
+    auto *param = co::make<quillGenericParam>(co::length(name) + co::length(value));
+    coChar *line = co::lineOf(param);
+    std::copy(value.begin(), value.end(), std::copy(name.begin(), name.end(), line));
+    co::keepLower(param, &quillGenericParam::name, co::chars(line, co::length(name)));
+    if (valueType < 0) return param;
+    param->valueType.set(valueType);
+    co::keep(param, &quillGenericParam::value, co::chars(line + name.size(), co::length(value)));
+    return param;
+}
+
+namespace {
+
+// A value that was read: of a token its text, of others what that was decoded to.
+struct ReadValue {
+    int64_t type = -1;
+    co::Chars token = {};
+    co::Ref<coString> decoded = {};
+};
+
+} // namespace
+
 // What stands behind EQUAL at the start of the text: the first of token, host and quoted string that matches at all. How
 // many code points it is, 0 for none.
-static int64_t takeValue(quillGenericParam *param, co::Chars text) {
+static int64_t takeValue(ReadValue *value, co::Chars text) {
     if (int64_t const token = quill::matched(quill::rules::token(text))) {
-        param->valueType.set(QUILL_GENERIC_PARAM_VALUE_TYPE_TOKEN);
-        param->value.adopt(co::makeString(quill::upTo(text, token)));
+        value->type = QUILL_GENERIC_PARAM_VALUE_TYPE_TOKEN;
+        value->token = quill::upTo(text, token);
         return token;
     }
     if (int64_t const host = quill::matched(quill::hostLength(text))) {
-        param->valueType.set(QUILL_GENERIC_PARAM_VALUE_TYPE_HOST);
-        param->value.adopt(quill___HostTryDecode(text.data(), host));
-        return param->value ? host : 0;
+        value->type = QUILL_GENERIC_PARAM_VALUE_TYPE_HOST;
+        value->decoded.reset(quill___HostTryDecode(text.data(), host));
+        return value->decoded ? host : 0;
     }
     int64_t const quoted = quill___SkipQuotedString(text.data(), co::length(text));
-    param->valueType.set(QUILL_GENERIC_PARAM_VALUE_TYPE_QUOTED_STRING);
-    if (quoted > 0) param->value.adopt(quill___QuotableStringTryDecode(text.data(), quoted));
-    return param->value ? quoted : 0;
+    value->type = QUILL_GENERIC_PARAM_VALUE_TYPE_QUOTED_STRING;
+    if (quoted > 0) value->decoded.reset(quill___QuotableStringTryDecode(text.data(), quoted));
+    return value->decoded ? quoted : 0;
 }
 
 // token [ EQUAL gen-value ]
 struct quillGenericParam *quill::readGenericParam(co::Chars *text) {
     int64_t const name = matched(rules::token(*text));
     if (name == 0) return nullptr;
-    co::Ref<quillGenericParam> param(co::make<quillGenericParam>());
-    param->name.adopt(co::makeString(upTo(*text, name)));
-    co::makeAsciiLower(param->name->chars(), static_cast<size_t>(name));
     co::Chars rest = from(*text, name);
+    ReadValue value;
     if (int64_t const equal = matched(rules::equal(rest))) {
         rest = from(rest, equal);
-        int64_t const value = takeValue(param.get(), rest);
-        if (value == 0) return nullptr;
-        rest = from(rest, value);
+        int64_t const count = takeValue(&value, rest);
+        if (count == 0) return nullptr;
+        rest = from(rest, count);
     }
+    quillGenericParam *param = makeGenericParam(upTo(*text, name), value.type, value.token);
+    if (value.decoded) param->value.adopt(value.decoded.take());
     *text = rest;
-    return param.take();
+    return param;
 }
 
 struct quillGenericParam *quill___GenericParamTryDecode(coChar const *chs, int64_t length) {

@@ -2,18 +2,33 @@
 
 #define CO_UNIT "source/quill/quill_generic_params"
 
-#include <co/co_dict.hpp>
+#include <co/co_dict_table.hpp>
 #include <co/co_vector.hpp>
 #include <quill/quill_family.hpp>
-#include <quill/quill_generic_param.h>
+#include <quill/quill_generic_param.hpp>
 #include <quill/quill_generic_param_name.h>
 #include <quill/quill_generic_params.hpp>
 #include <quill/quill_skip.h>
 
+namespace {
+
+struct ParamEntry {
+    quillGenericParam *param;
+
+    bool isGap() const { return !param; }
+    co::Chars keyText() const { return param->name.view(); }
+    void retain() const { co::retain(param); }
+    void release() const { co::release(param); }
+    void replaceBy(ParamEntry taken) { co::release(std::exchange(param, taken.param)); }
+    int compareValue(ParamEntry other) const { return co::compare(param, other.param); }
+};
+
+} // namespace
+
 struct quillGenericParams : coObj {
     static constexpr auto &sort = quill___sort_QUILL_GENERIC_PARAMS;
 
-    co::Slot<coDict> params; // never null; from the name, in lower case, to the parameter
+    co::Table<ParamEntry> params;
 
     static constexpr auto members() { return std::tuple(&quillGenericParams::params); }
     static constexpr auto comparison() { return members(); }
@@ -22,27 +37,24 @@ struct quillGenericParams : coObj {
 QUILL_DEFINE_VALUE(GenericParams, GENERIC_PARAMS, genericParams)
 
 struct quillGenericParams *quill::noGenericParams() {
-    static constinit quillGenericParams none{{&quillGenericParams::sort, co::immortal},
-                                             co::Slot<coDict>(&co::emptyDict)};
+    static constinit quillGenericParams none{{&quillGenericParams::sort, co::immortal}, {}};
     return &none;
 }
 
 struct quillGenericParams *quillGenericParamsCreate(void) {
-    auto *params = co::make<quillGenericParams>();
-    params->params.adopt(coDictCreate());
-    return params;
+    return co::make<quillGenericParams>();
 }
 
 // By position.
 
 int64_t quillGenericParamsLength(struct quillGenericParams const *params) {
     CO_ASSERT_GIVEN(params);
-    return coDictLength(params->params.get());
+    return params->params.length();
 }
 
 struct quillGenericParam *quillGenericParamsParamAt(struct quillGenericParams const *params, int64_t index) {
     CO_ASSERT_GIVEN(params);
-    return quillGenericParamFrom(coDictValueAt(params->params.get(), index));
+    return co::retained(params->params.at(index).param);
 }
 
 int64_t quillGenericParamsParamValueTypeAt(struct quillGenericParams const *params, int64_t index) {
@@ -64,50 +76,56 @@ struct coString *quillGenericParamsParamValueNonNormalizedAt(struct quillGeneric
 
 struct coVector *quillGenericParamsParamsVector(struct quillGenericParams const *params) {
     CO_ASSERT_GIVEN(params);
-    return coDictValuesVector(params->params.get());
-}
-
-static void setParam(quillGenericParams *own, quillGenericParam *param) {
-    co::Ref<coString> const name(quillGenericParamName(param));
-    coDictSetStringKey(own->params.address(), name.get(), quillGenericParamObj(param));
+    coVector *all = coVectorCreate();
+    int64_t place = 0;
+    while (ParamEntry const *entry = params->params.next(&place)) co::appendTaken(&all, co::retained(entry->param));
+    return all;
 }
 
 void quillGenericParamsSetParamsVector(struct quillGenericParams **params, struct coVector const *vector) {
     CO_ASSERT_REFERENCE(params);
     CO_ASSERT_GIVEN(vector);
     quillGenericParams *own = co::writable(params);
-    coDictClear(own->params.address());
+    own->params.clear();
     for (int64_t i = 0; i < vector->length; i++) {
         CO_ASSERT(coObjSort(vector->at(i)) == quillGenericParamSort(), "gp");
-        setParam(own, quillGenericParamFrom(vector->at(i)));
+        own->params.set({co::retained(quillGenericParamFrom(vector->at(i)))});
     }
 }
 
 // By name.
 
+static quillGenericParam *find(quillGenericParams const *params, coString const *name) {
+    co::Ref<coString> const normal(quillGenericParamNameNormalize(name));
+    ParamEntry const *entry = params->params.find(normal->view());
+    return entry ? entry->param : nullptr;
+}
+
 struct quillGenericParam *quillGenericParamsParam(struct quillGenericParams const *params,
                                                   struct coString const *name) {
     CO_ASSERT_GIVEN(params);
-    co::Ref<coString> const normal(quillGenericParamNameNormalize(name));
-    return quillGenericParamFrom(coDictStringKey(params->params.get(), normal.get()));
+    return co::retained(find(params, name));
 }
 
 bool quillGenericParamsHasParam(struct quillGenericParams const *params, struct coString const *name) {
     CO_ASSERT_GIVEN(params);
-    co::Ref<coString> const normal(quillGenericParamNameNormalize(name));
-    return coDictHasStringKey(params->params.get(), normal.get());
+    return find(params, name);
+}
+
+static void setTaken(quillGenericParams **params, quillGenericParam *taken) {
+    co::writable(params)->params.set({taken});
 }
 
 void quillGenericParamsSetParam(struct quillGenericParams **params, struct quillGenericParam *param) {
     CO_ASSERT_REFERENCE(params);
     CO_ASSERT_GIVEN(param);
-    setParam(co::writable(params), param);
+    setTaken(params, co::retained(param));
 }
 
 void quillGenericParamsDelParam(struct quillGenericParams **params, struct coString const *name) {
     CO_ASSERT_REFERENCE(params);
     co::Ref<coString> const normal(quillGenericParamNameNormalize(name));
-    coDictDelStringKey(co::writable(params)->params.address(), normal.get());
+    co::writable(params)->params.remove(normal->view());
 }
 
 CO_DEFINE_TEXT_FORMS_1(struct quillGenericParam *, quillGenericParamsParam, struct quillGenericParams const *, params,
@@ -146,18 +164,19 @@ CO_DEFINE_TEXT_FORMS_1(struct coString *, quillGenericParamsParamValueNonNormali
 void quillGenericParamsSetParamValue(struct quillGenericParams **params, struct coString *name, int64_t type,
                                      struct coString *value) {
     CO_ASSERT_REFERENCE(params);
-    co::Ref<quillGenericParam> const param(quillGenericParamCreateWithValue(name, type, value));
-    quillGenericParamsSetParam(params, param.get());
+    setTaken(params, quillGenericParamCreateWithValue(name, type, value));
 }
 
 void quillGenericParamsSetParamValueCstr(struct quillGenericParams **params, char const *name, int64_t nameLength,
                                          int64_t type, char const *value, int64_t valueLength) {
-    quillGenericParamsSetParamValue(params, co::Text(name, nameLength), type, co::Text(value, valueLength));
+    CO_ASSERT_REFERENCE(params);
+    setTaken(params, quillGenericParamCreateWithValueCstr(name, nameLength, type, value, valueLength));
 }
 
 void quillGenericParamsSetParamValueWcstr(struct quillGenericParams **params, wchar_t const *name, int64_t nameLength,
                                           int64_t type, wchar_t const *value, int64_t valueLength) {
-    quillGenericParamsSetParamValue(params, co::Text(name, nameLength), type, co::Text(value, valueLength));
+    CO_ASSERT_REFERENCE(params);
+    setTaken(params, quillGenericParamCreateWithValueWcstr(name, nameLength, type, value, valueLength));
 }
 
 // The codec: each parameter with its leading semicolon.
@@ -170,19 +189,16 @@ static bool isAmong(co::Chars name, co::Chars const *names, size_t count) {
 
 void quill::appendGenericParams(coString **text, quillGenericParams const *params, co::Chars const *without,
                                 size_t count) {
-    co::DictWalk walk(params->params.get());
-    for (co::DictEntry entry; walk.next(&entry);) {
-        if (isAmong(entry.key->view(), without, count)) continue;
-        co::append(text, U";");
-        appendGenericParam(text, quillGenericParamFrom(entry.value));
-    }
+    int64_t place = 0;
+    while (ParamEntry const *entry = params->params.next(&place))
+        if (!isAmong(entry->keyText(), without, count)) appendGenericParam(text, U";", entry->param);
 }
 
 int64_t quill::takeGenericParam(quillGenericParams **params, co::Chars text) {
     co::Chars rest = text;
-    co::Ref<quillGenericParam> const param(readGenericParam(&rest));
+    quillGenericParam *param = readGenericParam(&rest);
     if (!param) return 0;
-    setParam(co::writable(params), param.get());
+    setTaken(params, param);
     return co::length(text) - co::length(rest);
 }
 

@@ -2,19 +2,12 @@
 #pragma once
 
 #include <co/co_string.hpp>
-#include <quill/quill_generic_param.h>
 #include <quill/quill_generic_params.h>
 
 namespace quill {
 
 // The collection without parameters, borrowed: one for all values, which copy it when they get a parameter.
 struct quillGenericParams *noGenericParams();
-
-// One parameter, read at the start of a text, which then goes on behind it; null where there is none.
-struct quillGenericParam *readGenericParam(co::Chars *text);
-
-// Appends the wire text of one parameter.
-void appendGenericParam(coString **text, struct quillGenericParam const *param);
 
 // Takes one generic parameter at the start of the text into the collection; returns how many code points it is, 0 where
 // there is none.

@@ -65,7 +65,7 @@ struct HeaderSet : coObj {
     int64_t length;
     int64_t capacity;
     int64_t unknown;  // entries of other names, with gaps
-    uint32_t *slots;  // of other names, open addressing; null while they are few
+    uint32_t *slots;  // of other names, open addressing, a quarter taken at most; null while they are few
     int64_t slotMask; // their number is a power of two
     bool counts;      // some entry holds a reference
     bool hashed;      // entries of other names have their hashes
@@ -74,16 +74,18 @@ struct HeaderSet : coObj {
     HeaderEntry *inlineEntries() { return reinterpret_cast<HeaderEntry *>(this + 1); }
     bool hasOutgrown() const { return entries != reinterpret_cast<HeaderEntry const *>(this + 1); }
     uint32_t find(int known) const { return placeOfKnown[known]; }
-    uint32_t findUnknown(co::Chars name) const;
-    uint32_t find(co::Chars name, int known) const { return known >= 0 ? find(known) : findUnknown(name); }
-    HeaderEntry &add(coString *name, int known); // without lines; takes over a reference to the name if it is unknown
+    uint32_t findUnknown(co::Chars name, uint32_t hash) const;
+    uint32_t find(co::Chars name, int known) const { return known >= 0 ? find(known) : findUnknown(name, hash(name)); }
+    uint32_t hash(co::Chars name) const { return hashed ? static_cast<uint32_t>(co::hash(name)) : 0; }
+    // Without lines; takes over a reference to the name if it is unknown. Its hash is needed then.
+    HeaderEntry &add(coString *name, int known, uint32_t hash = 0);
     void remove(uint32_t place);
     void copyFrom(HeaderSet const &source); // into a new set with room for all its entries
 
 private:
     void grow();
     void index(uint32_t place);
-    void indexLast(); // a new entry of another name
+    void indexLast(uint32_t hash); // a new entry of another name
     void indexAll();
     void closeGaps();
 };
@@ -134,12 +136,9 @@ static void freeHeaderSet(coObj *obj) {
 constinit coSort const HeaderSet::sort{
     &co___sort_CO_SORT, &quill___module, "QUILL_HEADER_SET", freeHeaderSet, nullptr, nullptr, 0, sizeOfHeaderSet};
 
-static uint32_t hashOf(co::Chars name) { return static_cast<uint32_t>(co::hash(name)); }
-
-uint32_t HeaderSet::findUnknown(co::Chars name) const {
+uint32_t HeaderSet::findUnknown(co::Chars name, uint32_t hash) const {
     if (unknown == 0) return noEntry;
     if (slots) {
-        uint32_t const hash = hashOf(name);
         for (int64_t slot = hash & slotMask; slots[slot] != noEntry; slot = (slot + 1) & slotMask) {
             HeaderEntry const &entry = entries[slots[slot]];
             if (entry.hash == hash && entry.name && entry.name->view() == name) return slots[slot];
@@ -163,17 +162,17 @@ void HeaderSet::indexAll() {
     slots = nullptr;
     if (unknown <= fewUnknown) return;
     int64_t slotCount = 64;
-    while (slotCount < unknown * 4) slotCount *= 2;
+    while (slotCount < unknown * 8) slotCount *= 2;
     slots = static_cast<uint32_t *>(coMemAllocN(slotCount, sizeof(uint32_t)));
     std::fill(slots, slots + slotCount, noEntry);
     slotMask = slotCount - 1;
+    bool const areHashed = std::exchange(hashed, true);
     for (int64_t i = 0; i < used; i++) {
         HeaderEntry &entry = entries[i];
         if (!entry.name || entry.known >= 0) continue;
-        if (!hashed) entry.hash = hashOf(entry.name->view());
+        if (!areHashed) entry.hash = hash(entry.name->view());
         index(static_cast<uint32_t>(i));
     }
-    hashed = true;
 }
 
 void HeaderSet::grow() {
@@ -185,17 +184,17 @@ void HeaderSet::grow() {
     capacity = wanted;
 }
 
-void HeaderSet::indexLast() {
+void HeaderSet::indexLast(uint32_t hash) {
     unknown++;
     counts = true;
-    if (hashed) entries[used - 1].hash = hashOf(entries[used - 1].name->view());
-    if (slots ? unknown * 2 > slotMask : unknown > fewUnknown)
+    entries[used - 1].hash = hash;
+    if (slots ? unknown * 4 > slotMask : unknown > fewUnknown)
         indexAll();
     else if (slots)
         index(static_cast<uint32_t>(used - 1));
 }
 
-inline HeaderEntry &HeaderSet::add(coString *name, int known) {
+inline HeaderEntry &HeaderSet::add(coString *name, int known, uint32_t hash) {
     if (used == capacity) grow();
     auto const place = static_cast<uint32_t>(used++);
     length++;
@@ -208,7 +207,7 @@ inline HeaderEntry &HeaderSet::add(coString *name, int known) {
     if (known >= 0)
         placeOfKnown[known] = place;
     else
-        indexLast();
+        indexLast(hash);
     return entry;
 }
 
@@ -378,15 +377,16 @@ private:
         co::Ref<coString> normal(tryMakeFieldName(name));
         if (!normal) return false;
         index.lines[index.count - 1].canonical = usual && equals(name, normal->view());
-        uint32_t const place = set->findUnknown(normal->view());
-        enter(place, place == noEntry ? normal.take() : nullptr, -1);
+        uint32_t const hash = set->hash(normal->view());
+        uint32_t const place = set->findUnknown(normal->view(), hash);
+        enter(place, place == noEntry ? normal.take() : nullptr, -1, hash);
         return true;
     }
 
     // The last line is one more of an entry, or the first one of a new entry.
-    void enter(uint32_t place, coString *name, int known) {
+    void enter(uint32_t place, coString *name, int known, uint32_t hash = 0) {
         auto const line = static_cast<uint32_t>(index.count - 1);
-        HeaderEntry &entry = place == noEntry ? set->add(name, known) : set->entries[place];
+        HeaderEntry &entry = place == noEntry ? set->add(name, known, hash) : set->entries[place];
         (entry.count == 0 ? entry.first : index.lines[entry.last].next) = line;
         entry.last = line;
         entry.count++;
@@ -434,12 +434,17 @@ bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine) {
 
 // Reading.
 
-HeaderEntry const *HeaderTable::find(co::Chars name) const {
+HeaderEntry const *HeaderTable::find(co::Chars name, int known) const {
     HeaderSet const *set = headers.get();
-    if (!set) return nullptr;
-    uint32_t const place = set->find(name, knownFieldName(name));
+    uint32_t const place = set ? set->find(name, known) : noEntry;
     return place == noEntry ? nullptr : &set->entries[place];
 }
+
+HeaderEntry const *HeaderTable::find(co::Chars name) const { return find(name, knownFieldName(name)); }
+
+static int knownNumber(coString const *normal) { return co::isImmortal(normal) ? knownFieldName(normal->view()) : -1; }
+
+HeaderEntry const *HeaderTable::find(coString const *normal) const { return find(normal->view(), knownNumber(normal)); }
 
 HeaderEntry const *HeaderTable::find(int known) const {
     HeaderSet const *set = headers.get();
@@ -471,6 +476,11 @@ static struct quillMessageHeader *makeHeader(HeaderSet const *set, HeaderEntry c
 
 struct quillMessageHeader *HeaderTable::header(co::Chars name) const {
     HeaderEntry const *entry = find(name);
+    return entry ? makeHeader(headers.get(), *entry) : nullptr;
+}
+
+struct quillMessageHeader *HeaderTable::header(coString const *normal) const {
+    HeaderEntry const *entry = find(normal);
     return entry ? makeHeader(headers.get(), *entry) : nullptr;
 }
 
@@ -589,13 +599,14 @@ void HeaderTable::set(struct quillMessageHeader *header) {
     uint32_t const place = set->find(name, known);
     HeaderEntry &entry = place != noEntry ? set->entries[place]
                          : known >= 0     ? set->add(fieldNameAt(known), known)
-                                          : set->add(header->name.retained(), known);
+                                          : set->add(header->name.retained(), known, set->hash(name));
     set->counts = true;
     if (struct quillMessageHeader *old = std::exchange(entry.header, co::retained(header))) co::release(old);
 }
 
-void HeaderTable::remove(co::Chars name) {
-    int const known = knownFieldName(name);
+void HeaderTable::remove(coString const *normal) {
+    co::Chars const name = normal->view();
+    int const known = knownNumber(normal);
     if (!headers || headers->find(name, known) == noEntry) return;
     HeaderSet *set = writable(&headers);
     set->remove(set->find(name, known)); // a copy has other places

@@ -78,7 +78,10 @@ public:
     // where a line is none of a header, or not UTF-8.
     bool tryDecode(std::string_view *rest, bool untilEmptyLine);
 
-    bool has(co::Chars name) const { return find(name) != nullptr; }
+    // By a name as quillMessageHeaderNameNormalize gives it: only those of known fields are strings that all share.
+    bool has(coString const *normal) const { return find(normal) != nullptr; }
+    struct quillMessageHeader *header(coString const *normal) const;
+    void remove(coString const *normal);
 
     // The header of a normal name, owned, or null.
     struct quillMessageHeader *header(co::Chars name) const;
@@ -87,7 +90,6 @@ public:
     coVector *vector() const;
 
     void set(struct quillMessageHeader *header);
-    void remove(co::Chars name);
     void removeAll();
 
     // Writes the lines of all headers, with the line of the content's length, which is given without its end, in the
@@ -99,6 +101,8 @@ public:
 private:
     friend class Lines;
     HeaderEntry const *find(co::Chars name) const;
+    HeaderEntry const *find(co::Chars name, int known) const;
+    HeaderEntry const *find(coString const *normal) const;
     HeaderEntry const *find(int known) const; // by the number of a known name
 
     co::Slot<HeaderSet> headers; // null for none at all

@@ -7,6 +7,7 @@
 #include <quill/quill_message_fragment.h>
 #include <quill/quill_message_fragment.hpp>
 #include <quill/quill_message_header.h>
+#include <quill/quill_message_header.hpp>
 #include <quill/quill_method.h>
 #include <quill/quill_method.hpp>
 #include <quill/quill_reason_phrase.h>
@@ -230,35 +231,32 @@ struct coVector *quillMessageFragmentHeadersVector(struct quillMessageFragment c
     return frag->headers.vector();
 }
 
-struct quillMessageHeader *quillMessageFragmentHeader(struct quillMessageFragment const *frag,
-                                                      struct coString const *name) {
-    CO_ASSERT_GIVEN(frag);
-    co::Ref<coString> const normal(quillMessageHeaderNameNormalize(name));
-    return frag->headers.header(normal->view());
-}
+// A function by a name, in its three forms.
+#define BY_NAME(Result, Fn, Fragment, ASSERT_FRAG, work)                                                               \
+    Result Fn(Fragment frag, struct coString const *name) {                                                            \
+        ASSERT_FRAG(frag);                                                                                             \
+        co::Ref<coString> const normal(quillMessageHeaderNameNormalize(name));                                         \
+        return work;                                                                                                   \
+    }                                                                                                                  \
+    Result Fn##Cstr(Fragment frag, char const *name, int64_t length) {                                                 \
+        ASSERT_FRAG(frag);                                                                                             \
+        co::Ref<coString> const normal(quill::normalizeHeaderName(name, length));                                      \
+        return work;                                                                                                   \
+    }                                                                                                                  \
+    Result Fn##Wcstr(Fragment frag, wchar_t const *name, int64_t length) { return Fn(frag, co::Text(name, length)); }
 
-bool quillMessageFragmentHasHeader(struct quillMessageFragment const *frag, struct coString const *name) {
-    CO_ASSERT_GIVEN(frag);
-    co::Ref<coString> const normal(quillMessageHeaderNameNormalize(name));
-    return frag->headers.has(normal->view());
-}
+BY_NAME(struct quillMessageHeader *, quillMessageFragmentHeader, struct quillMessageFragment const *, CO_ASSERT_GIVEN,
+        frag->headers.header(normal.get()))
+BY_NAME(bool, quillMessageFragmentHasHeader, struct quillMessageFragment const *, CO_ASSERT_GIVEN,
+        frag->headers.has(normal.get()))
+BY_NAME(void, quillMessageFragmentDelHeader, struct quillMessageFragment **, CO_ASSERT_REFERENCE,
+        co::writable(frag)->headers.remove(normal.get()))
 
 void quillMessageFragmentSetHeader(struct quillMessageFragment **frag, struct quillMessageHeader *header) {
     CO_ASSERT_REFERENCE(frag);
     CO_ASSERT_GIVEN(header);
     co::writable(frag)->headers.set(header);
 }
-
-void quillMessageFragmentDelHeader(struct quillMessageFragment **frag, struct coString const *name) {
-    CO_ASSERT_REFERENCE(frag);
-    co::Ref<coString> const normal(quillMessageHeaderNameNormalize(name));
-    co::writable(frag)->headers.remove(normal->view());
-}
-
-CO_DEFINE_TEXT_FORMS_1(struct quillMessageHeader *, quillMessageFragmentHeader, struct quillMessageFragment const *,
-                       frag, name)
-CO_DEFINE_TEXT_FORMS_1(bool, quillMessageFragmentHasHeader, struct quillMessageFragment const *, frag, name)
-CO_DEFINE_TEXT_FORMS_1(void, quillMessageFragmentDelHeader, struct quillMessageFragment **, frag, name)
 
 void quillMessageFragmentClearHeaders(struct quillMessageFragment **frag) {
     CO_ASSERT_REFERENCE(frag);

@@ -5,6 +5,7 @@
 #include <co/co_simd.hpp>
 #include <co/co_store.h>
 #include <co/co_vector.hpp>
+#include <cstring>
 #include <quill/quill_family.hpp>
 #include <quill/quill_field_name.hpp>
 #include <quill/quill_message_header.h>
@@ -72,6 +73,13 @@ bool quillMessageHeaderNameOk(struct coString const *name) {
 struct coString *quillMessageHeaderNameNormalize(struct coString const *name) {
     CO_ASSERT_OK(quillMessageHeaderNameOk, name);
     return quill::tryNormalizeFieldName(name->view());
+}
+
+coString *quill::normalizeHeaderName(char const *name, int64_t length) {
+    bool const isText = name && length >= -1; // or else it is refused below
+    size_t const size = !isText ? 0 : length < 0 ? std::strlen(name) : static_cast<size_t>(length);
+    coString *normal = isText ? tryNormalizeFieldName(std::string_view(name, size)) : nullptr;
+    return normal ? normal : quillMessageHeaderNameNormalize(co::Text(name, length));
 }
 
 bool quillMessageHeaderLineOk(struct coString const *line) {

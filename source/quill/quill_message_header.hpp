@@ -20,4 +20,7 @@ namespace quill {
 // A header without lines; the name is in its normal form already.
 struct quillMessageHeader *makeMessageHeader(coString *normalName);
 
+// The normal form of a name in UTF-8, as of the string of it, which is not made where the name is a token.
+coString *normalizeHeaderName(char const *name, int64_t length);
+
 } // namespace quill

@@ -6,7 +6,9 @@
 
 #define CO_UNIT "source/quill/quill_message_stream_decoder"
 
+#include <algorithm>
 #include <co/co_buffer.hpp>
+#include <co/co_simd.hpp>
 #include <quill/quill_family.hpp>
 #include <quill/quill_message.h>
 #include <quill/quill_message_fragment.h>
@@ -81,14 +83,30 @@ static void skipKeepAlives(quillMessageStreamDecoder *decoder) {
     if (count > 0) coBufferDelLeading(decoder->buffer.address(), static_cast<int64_t>(count));
 }
 
-// The end of the headers, looked for from where the last search ended; -1 when it is not there yet.
+constexpr std::string_view endOfHeaders = "\r\n\r\n"; // of the last line, and the empty one
+
+// From LF to LF, the last byte of it, so that each write's bytes are searched alone: those of two writes at once would have
+// to wait for both to be in the cache.
+template <class Places> static int64_t findEndOfHeaders(std::string_view bytes, size_t start) {
+    Places ends(bytes.substr(start), '\n');
+    for (size_t at = start + ends.next(); at < bytes.size(); at = start + ends.next()) {
+        size_t const found = at + 1 - endOfHeaders.size();
+        if (bytes.substr(found, endOfHeaders.size()) == endOfHeaders) return static_cast<int64_t>(found);
+    }
+    return -1;
+}
+
+// The end of the headers, looked for from where the last search ended; -1 when it is not there yet. Few bytes make no
+// block.
 static int64_t findEndOfHeaders(quillMessageStreamDecoder *decoder) {
     std::string_view const bytes = decoder->buffer->view();
-    size_t const end = bytes.find("\r\n\r\n", static_cast<size_t>(decoder->offset.get()));
-    if (end != std::string_view::npos) return static_cast<int64_t>(end);
-    if (bytes.size() > 3 && decoder->offset.get() < static_cast<int64_t>(bytes.size()) - 3)
-        decoder->offset.set(static_cast<int64_t>(bytes.size()) - 3);
-    return -1;
+    if (bytes.size() < endOfHeaders.size()) return -1;
+    size_t const start = std::max(static_cast<size_t>(decoder->offset.get()), endOfHeaders.size() - 1);
+    bool const isFew = bytes.size() - start < 16;
+    int64_t const end =
+        isFew ? findEndOfHeaders<co::scalar::Places>(bytes, start) : findEndOfHeaders<co::simd::Places>(bytes, start);
+    if (end < 0) decoder->offset.set(decoder->buffer->length);
+    return end;
 }
 
 // Makes the message whose headers end at a place pending; false when they are none of a message on a stream.

@@ -44,6 +44,17 @@ TEST(Dict, KeepsTheOrderOfItsKeys) {
     EXPECT_EQ(textOf(dict.get()), "{a: 4, b: 3, c: 5}");
 }
 
+TEST(Dict, KeepsTheFirstStringOfAKey) {
+    co::Ref<coDict> dict(coDictCreate());
+    test::Str const first = str("a");
+    test::Str const second = str("a");
+    coDictSetStringKey(dict.address(), first, coStringObj(str("1")));
+    coDictSetStringKey(dict.address(), second, coStringObj(str("2")));
+    EXPECT_EQ(co::Ref(coDictKeyAt(dict.get(), 0)).get(), first.get());
+    EXPECT_EQ(count(second.get()), 1);
+    EXPECT_EQ(textOf(dict.get()), "{a: 2}");
+}
+
 TEST(Dict, FindsWhatItHas) {
     co::Ref<coDict> const dict = make({{"a", "1"}, {"", "2"}, {"é", "3"}});
     EXPECT_EQ(coDictLength(dict.get()), 3);

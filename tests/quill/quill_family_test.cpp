@@ -184,7 +184,7 @@ std::vector<Family> families() {
         FAMILY(
             GenericParam, GENERIC_PARAM, "quill_generic_param",
             [] { return generic(quillGenericParamCreateWithValueCstr("a", -1, 0, "B", -1)); },
-            CREATE_FROM(GenericParam), ENCODE(GenericParam), true, LIST(0, 2),
+            CREATE_FROM(GenericParam), ENCODE(GenericParam), true, LIST(1, 4),
             [](coObj const *obj) {
                 return std::vector{GET(GenericParam, Name), GET(GenericParam, ValueNonNormalized)};
             }),

@@ -259,6 +259,54 @@ TEST(QuillGenericParam, Asserts) {
     EXPECT_ABORT(quillGenericParamNormalizeValue(&null), unit, "*param");
 }
 
+// What was read stands behind the object, and a copy has its own: neither sees what becomes of the other.
+TEST(QuillGenericParam, CopiesOfWhatWasReadStandAlone) {
+    auto read = decodedParam("Name=Value");
+    auto copy = own(quillGenericParamCreateFrom(read.get()));
+    quillGenericParamSetName(read.address(), str("N"));
+    quillGenericParamSetValue(read.address(), quoted, str("V"));
+    EXPECT_EQ(text(read.get()), "n=\"V\"");
+    EXPECT_EQ(text(copy.get()), "name=Value");
+    read.reset(nullptr);
+    EXPECT_EQ(text(copy.get()), "name=Value");
+    quillGenericParamNormalizeValue(copy.address());
+    EXPECT_EQ(text(copy.get()), "name=value");
+    quillGenericParamDelValue(copy.address());
+    EXPECT_EQ(text(copy.get()), "name");
+}
+
+TEST(QuillGenericParam, KeepsTheStringsThatAreSet) {
+    auto const name = str("name");
+    auto const text = str("A value");
+    auto const created = own(quillGenericParamCreateWithValue(name, quoted, text));
+    EXPECT_EQ(own(quillGenericParamName(created.get())).get(), name.get());
+    EXPECT_EQ(own(quillGenericParamValueNonNormalized(created.get())).get(), text.get());
+    EXPECT_EQ(own(quillGenericParamValueNormalized(created.get())).get(), text.get());
+}
+
+TEST(QuillGenericParam, CreatesOfTextsWhatItCreatesOfStrings) {
+    struct {
+        int64_t type;
+        char const *value;
+    } const rows[] = {
+        {token, "A-1"}, {host, "[::1]"}, {host, "b\u00FCcher.example"}, {quoted, ""}, {quoted, "a \"b\""}};
+    for (auto const &row : rows) {
+        auto const of = own(quillGenericParamCreateWithValueCstr("Name", -1, row.type, row.value, -1));
+        auto const same = param("Name", row.type, row.value);
+        EXPECT_TRUE(quillGenericParamEquals(of.get(), same.get()));
+        EXPECT_EQ(quillGenericParamValueType(of.get()), row.type);
+        EXPECT_EQ(taken(quillGenericParamName(of.get())), "name");
+        EXPECT_EQ(value(of.get()), row.value);
+        EXPECT_EQ(text(of.get()), text(same.get()));
+        EXPECT_TRUE(quillGenericParamHasValue(of.get()));
+    }
+    EXPECT_ABORT(quillGenericParamCreateWithValueCstr("a b", -1, 9, "", -1), unit, "quillGenericParamNameOk( name )");
+    EXPECT_ABORT(quillGenericParamCreateWithValueCstr("a", -1, token, "", -1), unit,
+                 "quillGenericParamValueOk( type, value )");
+    EXPECT_ABORT(quillGenericParamCreateWithValueWcstr(L"a", -1, 9, L"a", -1), valueUnit,
+                 "QUILL_GENERIC_PARAM_VALUE_TYPE_OK( type )");
+}
+
 TEST(QuillGenericParam, CostIsLinear) {
     for (std::string_view piece : {"a", "=", "a=", "a=\"", "a.", "\\", "[:", ":"})
         expectLinear("a=" + std::string(piece), 20000, [&](size_t n) {

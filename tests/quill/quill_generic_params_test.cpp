@@ -158,6 +158,48 @@ TEST(QuillGenericParams, AllAtOnce) {
     EXPECT_ABORT(quillGenericParamsSetParamsVector(made.address(), all.get()), unit, "gp");
 }
 
+// For as many as stand in the object, as stand beside it, and as are hashed, and one more of each.
+TEST(QuillGenericParams, OfEachLength) {
+    for (int64_t length : {1, 4, 5, 8, 9, 100}) {
+        std::string whole;
+        std::string odd;
+        for (int64_t i = 0; i < length; i++) {
+            std::string const piece = ";p" + std::to_string(i) + "=V" + std::to_string(i);
+            whole += piece;
+            if (i % 2 != 0) odd += piece;
+        }
+        auto mine = params(whole);
+        co::Ref<quillGenericParams> const holder(co::retained(mine.get()));
+        for (int64_t i = 0; i < length; i += 2) {
+            auto const last = own(quillGenericParamsParamAt(holder.get(), i));
+            auto const name = own(quillGenericParamName(last.get()));
+            quillGenericParamsDelParam(mine.address(), name.get());
+            EXPECT_FALSE(quillGenericParamsHasParam(mine.get(), name.get()));
+            EXPECT_TRUE(quillGenericParamsHasParam(holder.get(), name.get()));
+        }
+        EXPECT_EQ(text(mine.get()), odd);
+        EXPECT_EQ(text(holder.get()), whole);
+        EXPECT_EQ(quillGenericParamsLength(mine.get()), length / 2);
+        for (int64_t i = 0; i < length / 2; i++)
+            EXPECT_EQ(taken(quillGenericParamsParamValueNonNormalizedAt(mine.get(), i)),
+                      "V" + std::to_string(2 * i + 1));
+        quillGenericParamsSetParamsVector(mine.address(), own(quillGenericParamsParamsVector(holder.get())).get());
+        EXPECT_TRUE(quillGenericParamsEquals(mine.get(), holder.get()));
+    }
+}
+
+TEST(QuillGenericParams, KeepsTheParameterThatIsSet) {
+    auto made = params(";a=1");
+    auto param = own(quillGenericParamCreate(str("A")));
+    quillGenericParamsSetParam(made.address(), param.get());
+    EXPECT_EQ(own(quillGenericParamsParamAt(made.get(), 0)).get(), param.get());
+    quillGenericParamSetName(param.address(), str("b"));
+    EXPECT_EQ(text(made.get()), ";a") << "what the caller makes of it later is another one";
+    auto const value = str("Text");
+    quillGenericParamsSetParamValue(made.address(), str("c"), 2, value);
+    EXPECT_EQ(own(quillGenericParamsParamValueNonNormalized(made.get(), str("c"))).get(), value.get());
+}
+
 TEST(QuillGenericParams, Compares) {
     EXPECT_TRUE(quillGenericParamsEquals(params(";a=X;b").get(), params(";B;A=x").get()));
     EXPECT_FALSE(quillGenericParamsEquals(params(";a=\"X\"").get(), params(";a=\"x\"").get()));

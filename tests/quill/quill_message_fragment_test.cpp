@@ -311,6 +311,48 @@ TEST(QuillMessageFragment, HasOneHeaderOfEachName) {
                  "quillMessageHeaderNameOk( name )");
 }
 
+// Names of known fields, few others and many others, in each form of text.
+TEST(QuillMessageFragment, FindsHeadersByNamesOfAnyForm) {
+    for (int others : {1, 8, 9, 100}) {
+        auto frag = own(quillMessageFragmentCreate());
+        std::vector<std::string> names{"Via", "v", "content-LENGTH", "L"};
+        for (int i = 0; i < others; i++) names.push_back("x-" + std::to_string(i) + "-A");
+        for (std::string const &name : names) {
+            auto const header = own(quillMessageHeaderCreate(str(name)));
+            quillMessageFragmentSetHeader(frag.address(), header.get());
+        }
+        for (std::string const &name : names) {
+            std::string const longer = name + "b";
+            std::wstring const wide(name.begin(), name.end());
+            auto const length = static_cast<int64_t>(name.size());
+            EXPECT_TRUE(quillMessageFragmentHasHeader(frag.get(), str(name)));
+            EXPECT_TRUE(quillMessageFragmentHasHeaderCstr(frag.get(), name.c_str(), -1));
+            EXPECT_TRUE(quillMessageFragmentHasHeaderCstr(frag.get(), longer.c_str(), length));
+            EXPECT_TRUE(quillMessageFragmentHasHeaderWcstr(frag.get(), wide.c_str(), -1));
+            EXPECT_FALSE(quillMessageFragmentHasHeaderCstr(frag.get(), longer.c_str(), -1));
+            EXPECT_EQ(own(quillMessageFragmentHeaderCstr(frag.get(), longer.c_str(), length)).get(),
+                      own(quillMessageFragmentHeader(frag.get(), str(name))).get());
+        }
+        for (std::string const &name : {names[1], names[3], names.back()}) {
+            quillMessageFragmentDelHeaderCstr(frag.address(), name.c_str(), -1);
+            EXPECT_FALSE(quillMessageFragmentHasHeader(frag.get(), str(name)));
+        }
+        EXPECT_FALSE(quillMessageFragmentHasHeader(frag.get(), str("Via")));
+    }
+}
+
+TEST(QuillMessageFragment, RefusesNamesInUtf8LikeStrings) {
+    auto const frag = own(quillMessageFragmentCreate());
+    char const headerUnit[] = "source/quill/quill_message_header";
+    char const ok[] = "quillMessageHeaderNameOk( name )";
+    for (char const *name : {"", "a b", "a:", "\u00E4", "\xFF", "Via "})
+        EXPECT_ABORT(quillMessageFragmentHasHeaderCstr(frag.get(), name, -1), headerUnit, ok);
+    EXPECT_ABORT(quillMessageFragmentHasHeaderCstr(frag.get(), "Via", 4), headerUnit, ok);
+    EXPECT_ABORT(quillMessageFragmentHasHeaderCstr(frag.get(), nullptr, 0), headerUnit, ok);
+    EXPECT_ABORT(quillMessageFragmentHeaderCstr(frag.get(), nullptr, -1), "source/co/co_string", "text || length == 0");
+    EXPECT_ABORT(quillMessageFragmentHeaderCstr(frag.get(), "a", -2), "source/co/co_string", "length >= -1");
+}
+
 TEST(QuillMessageFragment, HasAContentLengthHeader) {
     auto frag = own(quillMessageFragmentCreate());
     EXPECT_EQ(quillMessageFragmentHeaderContentLength(frag.get()), nullptr);
