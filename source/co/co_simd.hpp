@@ -22,28 +22,12 @@
 
 namespace co::scalar {
 
-// The place of the first `wanted`, or the text's size.
-inline size_t find(std::string_view text, char wanted) {
+// The place of the first `wanted`, or the text's size. Apart, so that its loop is not unrolled wherever it is used.
+[[gnu::noinline]] inline size_t find(std::string_view text, char wanted) {
     size_t at = 0;
     while (at < text.size() && text[at] != wanted) at++;
     return at;
 }
-
-// All places of `wanted`, one after the other; the text's size when there are no more.
-class Places {
-public:
-    Places(std::string_view whole, char wantedByte) : text(whole), wanted(wantedByte) {}
-
-    size_t next() {
-        while (at < text.size() && text[at] != wanted) at++;
-        return at < text.size() ? at++ : at;
-    }
-
-private:
-    std::string_view text;
-    char wanted;
-    size_t at = 0;
-};
 
 // How many leading characters are US-ASCII.
 inline size_t asciiRun(std::string_view text) {
@@ -105,17 +89,6 @@ inline Block either(Block a, Block b) { return _mm_or_si128(a, b); }
 inline Mask highBits(Block block) { return static_cast<Mask>(_mm_movemask_epi8(block)); }
 inline size_t first(Mask mask) { return static_cast<size_t>(std::countr_zero(mask)); }
 
-// The places of a byte are looked for in longer steps.
-inline constexpr size_t stepSize = 4 * blockSize;
-using StepMask = uint64_t;
-
-[[gnu::always_inline]] inline StepMask equalInStep(char const *at, char wanted) {
-    auto const part = [=](size_t i) { return StepMask{highBits(equal(load(at + i), wanted))} << i; };
-    return (part(0) | part(16)) | (part(32) | part(48));
-}
-inline size_t first(StepMask mask) { return static_cast<size_t>(std::countr_zero(mask)); }
-inline StepMask withoutFirst(StepMask mask) { return mask & (mask - 1); }
-
 inline Block equalChars(Block fourChars, coChar wanted) {
     return _mm_cmpeq_epi32(fourChars, _mm_set1_epi32(static_cast<int>(wanted)));
 }
@@ -151,12 +124,6 @@ inline Mask highBits(Block block) {
     return vget_lane_u64(vreinterpret_u64_u8(vshrn_n_u16(vreinterpretq_u16_u8(spread), 4)), 0);
 }
 inline size_t first(Mask mask) { return static_cast<size_t>(std::countr_zero(mask)) / 4; }
-
-inline constexpr size_t stepSize = blockSize;
-using StepMask = Mask;
-
-inline StepMask equalInStep(char const *at, char wanted) { return highBits(equal(load(at), wanted)); }
-inline StepMask withoutFirst(StepMask mask) { return mask & ~(StepMask{0xF} << std::countr_zero(mask)); }
 
 inline Block equalChars(Block fourChars, coChar wanted) {
     return vreinterpretq_u8_u32(vceqq_u32(vreinterpretq_u32_u8(fourChars), vdupq_n_u32(wanted)));
@@ -194,38 +161,6 @@ template <class MaskAt> [[gnu::always_inline]] inline size_t firstPlace(size_t s
     if (text.size() < blockSize) return scalar::find(text, wanted);
     return firstPlace(text.size(), [&](size_t at) { return highBits(equal(load(text.data() + at), wanted)); });
 }
-
-class Places {
-public:
-    Places(std::string_view whole, char wantedByte) : text(whole), wanted(wantedByte) {}
-
-    [[gnu::always_inline]] size_t next() {
-        while (mask == 0) {
-            if (searched >= text.size()) return text.size();
-            mask = searchStep();
-        }
-        size_t const place = searched - stepSize + first(mask);
-        mask = withoutFirst(mask);
-        return place;
-    }
-
-private:
-    [[gnu::always_inline]] StepMask searchStep() {
-        char const *const step = text.data() + searched;
-        size_t const left = text.size() - searched;
-        searched += stepSize;
-        if (left >= stepSize) return equalInStep(step, wanted);
-        char last[stepSize];
-        std::memset(last, ~wanted, sizeof last);
-        std::memcpy(last, step, left);
-        return equalInStep(last, wanted);
-    }
-
-    std::string_view const text;
-    char const wanted;
-    size_t searched = 0;
-    StepMask mask = 0; // of the places in the step that was searched last
-};
 
 inline size_t asciiRun(std::string_view text) {
     if (text.size() < blockSize) return scalar::asciiRun(text);
@@ -292,9 +227,10 @@ namespace co {
 
 // The place of the first CR LF, or the text's size.
 inline size_t findLineEnd(std::string_view text) {
-    simd::Places returns(text, '\r');
-    for (size_t at = returns.next(); at + 1 < text.size(); at = returns.next())
-        if (text[at + 1] == '\n') return at;
+    for (size_t at = 0; at < text.size(); at++) {
+        at += simd::find(std::string_view(text.data() + at, text.size() - at), '\r');
+        if (at + 1 < text.size() && text[at + 1] == '\n') return at;
+    }
     return text.size();
 }
 

@@ -39,7 +39,7 @@ constexpr int64_t usualEntries = 20;
 constexpr uint32_t noEntry = UINT32_MAX;
 
 // What stands before the next line end; the rest stays without both.
-inline Bytes takeLine(Bytes *rest) {
+[[gnu::noinline]] Bytes takeLine(Bytes *rest) {
     size_t const end = co::findLineEnd(*rest);
     Bytes const line = rest->substr(0, end);
     rest->remove_prefix(std::min(end + 2, rest->size()));
@@ -81,7 +81,7 @@ struct HeaderSet : coObj {
     void copyFrom(HeaderSet const &source); // into a new set with room for all its entries
 
 private:
-    void grow();
+    [[gnu::cold]] void grow();
     void index(uint32_t place);
     void indexLast(); // a new entry of another name
     void indexAll();
@@ -284,7 +284,7 @@ public:
     int64_t capacity = 48;
 
 private:
-    void grow() {
+    [[gnu::cold]] void grow() {
         auto *more = static_cast<WireLine *>(coMemAllocN(capacity * 2, sizeof(WireLine)));
         std::copy(lines, lines + count, more);
         coMemFree(heap);
@@ -302,20 +302,16 @@ bool equals(Bytes bytes, co::Chars chars) {
 class Splitter {
 public:
     Splitter(Bytes all, bool toEmptyLine, HeaderSet *headerSet)
-        : text(all), returns(all, '\r'), untilEmptyLine(toEmptyLine), set(headerSet) {}
+        : text(all), untilEmptyLine(toEmptyLine), set(headerSet) {}
 
-    // A header goes on in the lines that begin with a blank. Blanks that follow no header say nothing.
     bool split() {
         char const *at = text.begin();
         while (at < text.end()) {
-            char const *start = at;
-            char const *end = takeLine(&at);
-            if (start == end && untilEmptyLine) return finish(start, at);
-            while (start < end && isBlank(*start)) start++;
-            if (start == end) continue;
-            bool folded = false;
-            for (; at < text.end() && isBlank(*at); folded = true) end = takeLine(&at);
-            if (!keep(start, end, folded)) return false;
+            if (untilEmptyLine && *at == '\r' && Bytes(at, text.end()).starts_with("\r\n")) return finish(at, at + 2);
+            char const *next = keepUsual(at);
+            if (!next) next = keepAny(at);
+            if (!next) return false;
+            at = next;
         }
         return finish(at, at);
     }
@@ -332,15 +328,37 @@ private:
         return headers.size() < noLine;
     }
 
-    // The end of the line; the next one is at hand then.
-    [[gnu::always_inline]] char const *takeLine(char const **at) {
-        for (;;) {
-            size_t const end = returns.next();
-            if (end + 1 >= text.size()) return *at = text.end();
-            if (text[end + 1] != '\n') continue;
-            *at = text.begin() + end + 2;
-            return text.begin() + end;
-        }
+    // A line of a known name, with one blank behind the colon and none at another place, that does not go on in the next:
+    // nearly every line is one. Returns what follows, null for all other lines. No known name holds a line end, so that the
+    // line's is looked for behind the name alone.
+    [[gnu::always_inline]] char const *keepUsual(char const *start) {
+        constexpr size_t nameRoom = 32; // and the colon: two blocks
+        static_assert(nameRoom > fieldNameRoom);
+        auto const left = static_cast<size_t>(text.end() - start);
+        Bytes const name(start, co::simd::find(Bytes(start, std::min(left, nameRoom)), ':'));
+        bool isNormal;
+        int const known = matchFieldName(name, text.end(), &isNormal);
+        char const *const first = name.end() + 2; // of the value
+        if (known < 0 || first >= text.end() || first[-1] != ' ' || isBlank(*first)) return nullptr;
+        char const *const end = first + co::simd::find(Bytes(first, text.end()), '\r');
+        char const *const next = end + 2;
+        if (next >= text.end() || end[1] != '\n' || isBlank(*next) || end == first || isBlank(end[-1])) return nullptr;
+        addLine(start, Bytes(first, end), {.folded = false, .plain = true, .canonical = isNormal});
+        countWritten(known, name.size(), Bytes(first, end).size());
+        enter(set->find(known), fieldNameAt(known), known);
+        return next;
+    }
+
+    // A header goes on in the lines that begin with a blank. Blanks that follow no header say nothing. Returns what follows,
+    // null where this is no header.
+    [[gnu::noinline]] char const *keepAny(char const *start) {
+        Bytes left(start, text.end());
+        char const *end = takeLine(&left).end();
+        while (start < end && isBlank(*start)) start++;
+        if (start == end) return left.begin();
+        bool folded = false;
+        for (; !left.empty() && isBlank(left[0]); folded = true) end = takeLine(&left).end();
+        return keep(start, end, folded) ? left.begin() : nullptr;
     }
 
     // field-name HCOLON field-value, the name in one piece and the value in one or more
@@ -358,20 +376,35 @@ private:
             name = folded ? pieceOf(name) : withoutBlanks(name);
             value = withoutBlanks(value);
         }
-        FieldName const field = matchFieldName(name, text.end());
+        bool isNormal;
+        int const known = matchFieldName(name, text.end(), &isNormal);
+        addLine(start, value, {folded && value.find("\r\n") != Bytes::npos, usual, usual && isNormal});
+        countWritten(known, name.size(), value.size());
+        if (known < 0) return enterUnknown(name, usual);
+        enter(set->find(known), fieldNameAt(known), known);
+        return true;
+    }
+
+    struct Form {
+        bool folded;
+        bool plain;
+        bool canonical;
+    };
+
+    void addLine(char const *start, Bytes value, Form form) {
         WireLine *const line = index.add();
         line->start = offset(start);
         line->value = offset(value.begin());
         line->length = static_cast<uint32_t>(value.size());
         line->next = noLine;
-        line->folded = folded && value.find("\r\n") != Bytes::npos;
-        line->plain = usual;
-        line->canonical = usual && field.normal;
-        size_t const nameLength = field.known < 0 ? name.size() : fieldNameText(field.known).size();
-        encodedLength += static_cast<int64_t>(nameLength + value.size()) + 4;
-        if (field.known < 0) return enterUnknown(name, usual);
-        enter(set->find(field.known), fieldNameAt(field.known), field.known);
-        return true;
+        line->folded = form.folded;
+        line->plain = form.plain;
+        line->canonical = form.canonical;
+    }
+
+    void countWritten(int known, size_t nameLength, size_t valueLength) {
+        if (nameLength == 1 && known >= 0) nameLength = fieldNameText(known).size(); // of a compact form
+        encodedLength += static_cast<int64_t>(nameLength + valueLength) + 4;
     }
 
     bool enterUnknown(Bytes name, bool usual) {
@@ -403,7 +436,6 @@ private:
     uint32_t offset(char const *at) const { return static_cast<uint32_t>(at - text.begin()); }
 
     Bytes const text;
-    co::simd::Places returns;
     bool const untilEmptyLine;
     HeaderSet *const set;
 };
@@ -447,17 +479,21 @@ HeaderEntry const *HeaderTable::find(int known) const {
     return place == noEntry ? nullptr : &set->entries[place];
 }
 
-// The bytes of a line's value, joined where it is folded.
+// The pieces of a folded value, joined.
+[[gnu::noinline]] static coChar *widenFolded(WireText const *text, coChar *chars, Bytes folded) {
+    coChar *end = chars;
+    forEachPiece(folded, [&](Bytes piece) {
+        if (end != chars) *end++ = U' ';
+        end = text->widen(end, piece);
+    });
+    return end;
+}
+
 static coString *makeLine(WireText const *text, WireLine const &line) {
     Bytes const value = text->valueOf(line);
     if (!line.folded) return co::makeStringFromUtf8(value);
     coString *joined = co::makeString(static_cast<int64_t>(value.size()));
-    coChar *end = joined->chars();
-    forEachPiece(value, [&](Bytes piece) {
-        if (end != joined->chars()) *end++ = U' ';
-        end = text->widen(end, piece);
-    });
-    joined->length = end - joined->chars();
+    joined->length = widenFolded(text, joined->chars(), value) - joined->chars();
     return joined;
 }
 
@@ -472,6 +508,14 @@ static struct quillMessageHeader *makeHeader(HeaderSet const *set, HeaderEntry c
 struct quillMessageHeader *HeaderTable::header(co::Chars name) const {
     HeaderEntry const *entry = find(name);
     return entry ? makeHeader(headers.get(), *entry) : nullptr;
+}
+
+Bytes HeaderTable::lastReceived(int known) const {
+    HeaderEntry const *entry = find(known);
+    if (!entry || entry->header) return {};
+    WireText const *text = headers->text;
+    WireLine const &line = text->lines()[entry->last];
+    return line.folded ? Bytes() : text->valueOf(line);
 }
 
 coVector *HeaderTable::vector() const {
@@ -503,22 +547,16 @@ Lines::~Lines() { coMemFree(heap); }
 co::Chars Lines::widen(uint32_t index) {
     WireLine const &line = text->lines()[index];
     Bytes const value = text->valueOf(line);
-    if (static_cast<int64_t>(value.size()) > capacity) {
-        coMemFree(heap);
-        capacity = static_cast<int64_t>(value.size());
-        heap = static_cast<coChar *>(coMemAllocN(capacity, sizeof(coChar)));
-    }
+    if (static_cast<int64_t>(value.size()) > capacity) reserve(static_cast<int64_t>(value.size()));
     coChar *const chars = heap ? heap : local;
-    coChar *end = chars;
-    if (!line.folded) {
-        end = text->widen(chars, value);
-    } else {
-        forEachPiece(value, [&](Bytes piece) {
-            if (end != chars) *end++ = U' ';
-            end = text->widen(end, piece);
-        });
-    }
+    coChar *const end = line.folded ? widenFolded(text, chars, value) : text->widen(chars, value);
     return {chars, static_cast<size_t>(end - chars)};
+}
+
+void Lines::reserve(int64_t length) {
+    coMemFree(heap);
+    capacity = length;
+    heap = static_cast<coChar *>(coMemAllocN(capacity, sizeof(coChar)));
 }
 
 int64_t Lines::room() const {
