@@ -6,6 +6,7 @@
 #include <co/co_assert.hpp>
 #include <co/co_ip.hpp>
 #include <co/co_scan.hpp>
+#include <co/co_simd.hpp>
 #include <co/co_unicode.hpp>
 #include <loc/loc_skip.h>
 #include <loc/loc_skip.hpp>
@@ -150,7 +151,9 @@ int64_t anySipPartLength(Chars text, coChar end) {
 bool maySipPartGoOn(coChar ch) { return ch == U',' || ch == U'?' || ch == U'%' || ch == U'#' || ch >= 128; }
 
 int64_t sipPartLength(Chars text, coChar end) {
-    Chars const usual(text.data(), static_cast<size_t>(runOf(isUsualInSip, text, 0)));
+    constexpr size_t worthwhile = 16;
+    auto const begin = static_cast<int64_t>(text.size() < worthwhile ? 0 : co::simd::uriRun(text));
+    Chars const usual(text.data(), static_cast<size_t>(runOf(isUsualInSip, text, begin)));
     if (usual.size() < text.size() && maySipPartGoOn(text[usual.size()])) return anySipPartLength(text, end);
     return co::length(end == loc::noChar ? usual : usual.substr(0, usual.find(end)));
 }

@@ -304,16 +304,25 @@ public:
     Splitter(Bytes all, bool toEmptyLine, HeaderSet *headerSet)
         : text(all), untilEmptyLine(toEmptyLine), set(headerSet) {}
 
+    // A header goes on in the lines that begin with a blank. Blanks that follow no header say nothing.
     bool split() {
-        char const *at = text.begin();
-        while (at < text.end()) {
-            if (untilEmptyLine && *at == '\r' && Bytes(at, text.end()).starts_with("\r\n")) return finish(at, at + 2);
-            char const *next = keepUsual(at);
-            if (!next) next = keepAny(at);
-            if (!next) return false;
-            at = next;
+        co::simd::Places returns(text, '\r');
+        char const *start = text.begin(); // of a header
+        bool folded = false;
+        for (char const *at = start; at < text.end();) {
+            char const *const end = takeLine(returns, &at);
+            if (start == end && untilEmptyLine) return finish(start, at);
+            bool const goesOn = at < text.end() && isBlank(*at);
+            if (folded || goesOn || !keepUsual(start, end)) {
+                while (start < end && isBlank(*start)) start++;
+                folded = folded || (goesOn && start < end);
+                if (folded && goesOn) continue;
+                if (start < end && !keep(start, end, folded)) return false;
+                folded = false;
+            }
+            start = at;
         }
-        return finish(at, at);
+        return finish(text.end(), text.end());
     }
 
     Bytes headers; // what was split
@@ -328,41 +337,37 @@ private:
         return headers.size() < noLine;
     }
 
-    // A line of a known name, with one blank behind the colon and none at another place, that does not go on in the next:
-    // nearly every line is one. Returns what follows, null for all other lines. No known name holds a line end, so that the
-    // line's is looked for behind the name alone.
-    [[gnu::always_inline]] char const *keepUsual(char const *start) {
+    // The end of the line; the next one is at hand then.
+    [[gnu::always_inline]] char const *takeLine(co::simd::Places &returns, char const **at) const {
+        for (;;) {
+            size_t const end = returns.next();
+            if (end + 1 >= text.size()) return *at = text.end();
+            if (text[end + 1] != '\n') continue;
+            *at = text.begin() + end + 2;
+            return text.begin() + end;
+        }
+    }
+
+    // A line of a known name, with one blank behind the colon and none at another place: as nearly all are. False, and
+    // nothing is kept, for any other. No known name holds a line end, so that the search for the colon needn't mind it.
+    [[gnu::always_inline]] bool keepUsual(char const *start, char const *end) {
         constexpr size_t nameRoom = 32; // and the colon: two blocks
         static_assert(nameRoom > fieldNameRoom);
         auto const left = static_cast<size_t>(text.end() - start);
         Bytes const name(start, co::simd::find(Bytes(start, std::min(left, nameRoom)), ':'));
         bool isNormal;
         int const known = matchFieldName(name, text.end(), &isNormal);
-        char const *const first = name.end() + 2; // of the value
-        if (known < 0 || first >= text.end() || first[-1] != ' ' || isBlank(*first)) return nullptr;
-        char const *const end = first + co::simd::find(Bytes(first, text.end()), '\r');
-        char const *const next = end + 2;
-        if (next >= text.end() || end[1] != '\n' || isBlank(*next) || end == first || isBlank(end[-1])) return nullptr;
-        addLine(start, Bytes(first, end), {.folded = false, .plain = true, .canonical = isNormal});
-        countWritten(known, name.size(), Bytes(first, end).size());
+        if (known < 0 || end - name.end() < 3 || name.end()[1] != ' ') return false;
+        Bytes const value(name.end() + 2, end);
+        if (isBlank(value.front()) || isBlank(value.back())) return false;
+        addLine(start, value, {.folded = false, .plain = true, .canonical = isNormal});
+        countWritten(known, name.size(), value.size());
         enter(set->find(known), fieldNameAt(known), known);
-        return next;
-    }
-
-    // A header goes on in the lines that begin with a blank. Blanks that follow no header say nothing. Returns what follows,
-    // null where this is no header.
-    [[gnu::noinline]] char const *keepAny(char const *start) {
-        Bytes left(start, text.end());
-        char const *end = takeLine(&left).end();
-        while (start < end && isBlank(*start)) start++;
-        if (start == end) return left.begin();
-        bool folded = false;
-        for (; !left.empty() && isBlank(left[0]); folded = true) end = takeLine(&left).end();
-        return keep(start, end, folded) ? left.begin() : nullptr;
+        return true;
     }
 
     // field-name HCOLON field-value, the name in one piece and the value in one or more
-    bool keep(char const *start, char const *end, bool folded) {
+    [[gnu::noinline]] bool keep(char const *start, char const *end, bool folded) {
         char const *const colon = start + co::simd::find(Bytes(start, text.end()), ':');
         if (colon >= end || colon == start) return false;
         Bytes name(start, colon);

@@ -122,10 +122,20 @@ void expectAsPlain(Text whole, Text startLine) {
 
 constexpr Text bye = "BYE sip:a@b SIP/2.0";
 
-// A header of any text behind a filler that moves it over the borders of what is searched at once.
+std::string withNames(std::string text, Text first, Text second) {
+    for (auto [letters, name] : {std::pair(Text("a0"), first), std::pair(Text("c0"), second)})
+        for (size_t at; (at = text.find(letters)) != text.npos;) text.replace(at, letters.size(), name);
+    return text;
+}
+
+// Headers of any text, of unknown names and of known ones, behind a filler that moves them over the borders of what is
+// searched at once.
 void expectAsPlainAtAllOffsets(Text text) {
     for (size_t filler = 0; filler < 70; filler++) {
-        expectAsPlain(std::string(bye) + "\r\nZ:" + std::string(filler, 'z') + "\r\n" + std::string(text), bye);
+        std::string const start = std::string(bye) + "\r\nZ:" + std::string(filler, 'z') + "\r\n";
+        expectAsPlain(start + std::string(text), bye);
+        expectAsPlain(start + withNames(std::string(text), "To", "v"), bye);
+        expectAsPlain(start + withNames(std::string(text), "Record-Route", "Accept-Resource-Priority"), bye);
         if (testing::Test::HasFatalFailure()) return;
     }
 }
