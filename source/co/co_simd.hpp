@@ -22,8 +22,8 @@
 
 namespace co::scalar {
 
-// The place of the first `wanted`, or the text's size.
-inline size_t find(std::string_view text, char wanted) {
+// The place of the first `wanted`, or the text's size. Apart, so that its loop is not unrolled wherever it is used.
+[[gnu::noinline]] inline size_t find(std::string_view text, char wanted) {
     size_t at = 0;
     while (at < text.size() && text[at] != wanted) at++;
     return at;
@@ -60,6 +60,20 @@ inline size_t asciiRun(std::string_view text) {
 inline size_t asciiRun(std::u32string_view text) {
     size_t count = 0;
     while (count < text.size() && text[count] < 0x80) count++;
+    return count;
+}
+
+constexpr bool isInRange(coChar ch, char low, char high) {
+    return ch >= static_cast<unsigned char>(low) && ch <= static_cast<unsigned char>(high);
+}
+
+// How many leading characters are letters, digits, "-", ".", "/", ":" and "@": what URIs mostly are.
+[[gnu::noinline]] inline size_t uriRun(std::u32string_view text) {
+    auto const isMember = [](coChar ch) {
+        return isInRange(ch | 0x20, 'a', 'z') || isInRange(ch, '-', ':') || ch == U'@';
+    };
+    size_t count = 0;
+    while (count < text.size() && isMember(text[count])) count++;
     return count;
 }
 
@@ -102,6 +116,10 @@ inline Block load(char const *at) { return _mm_loadu_si128(reinterpret_cast<__m1
 inline Block load(coChar const *at) { return _mm_loadu_si128(reinterpret_cast<__m128i const *>(at)); }
 inline Block equal(Block block, char wanted) { return _mm_cmpeq_epi8(block, _mm_set1_epi8(wanted)); }
 inline Block either(Block a, Block b) { return _mm_or_si128(a, b); }
+inline Block inRange(Block block, char low, char high) { // moved to the end of what a byte can be
+    Block const moved = _mm_add_epi8(block, _mm_set1_epi8(static_cast<char>(127 - high)));
+    return _mm_cmpgt_epi8(moved, _mm_set1_epi8(static_cast<char>(126 - (high - low))));
+}
 inline Mask highBits(Block block) { return static_cast<Mask>(_mm_movemask_epi8(block)); }
 inline size_t first(Mask mask) { return static_cast<size_t>(std::countr_zero(mask)); }
 
@@ -132,6 +150,13 @@ inline bool isAscii(Block fourChars) {
     return highBits(_mm_cmpeq_epi32(beyond, _mm_setzero_si128())) == 0xFFFF;
 }
 
+// Sixteen code points as bytes; those beyond a byte become some byte that is no US-ASCII character but NUL.
+inline Block narrowed(coChar const *at) {
+    Block const low = _mm_packs_epi32(load(at), load(at + 4));
+    Block const high = _mm_packs_epi32(load(at + 8), load(at + 12));
+    return _mm_packus_epi16(low, high);
+}
+
 inline void narrowOnce(uint8_t *bytes, Block low, Block high) {
     Block const pairs = _mm_packs_epi32(low, high);
     _mm_storel_epi64(reinterpret_cast<__m128i *>(bytes), _mm_packus_epi16(pairs, pairs));
@@ -146,6 +171,10 @@ inline Block load(char const *at) { return vld1q_u8(reinterpret_cast<uint8_t con
 inline Block load(coChar const *at) { return vld1q_u8(reinterpret_cast<uint8_t const *>(at)); }
 inline Block equal(Block block, char wanted) { return vceqq_u8(block, vdupq_n_u8(static_cast<uint8_t>(wanted))); }
 inline Block either(Block a, Block b) { return vorrq_u8(a, b); }
+inline Block inRange(Block block, char low, char high) {
+    Block const moved = vsubq_u8(block, vdupq_n_u8(static_cast<uint8_t>(low)));
+    return vcleq_u8(moved, vdupq_n_u8(static_cast<uint8_t>(high - low)));
+}
 inline Mask highBits(Block block) {
     Block const spread = vcltzq_s8(vreinterpretq_s8_u8(block));
     return vget_lane_u64(vreinterpret_u64_u8(vshrn_n_u16(vreinterpretq_u16_u8(spread), 4)), 0);
@@ -170,6 +199,11 @@ inline void widenOnce(coChar *chars, char const *ascii) {
 
 inline bool isAscii(Block fourChars) { return vmaxvq_u32(vreinterpretq_u32_u8(fourChars)) < 0x80; }
 
+inline Block narrowed(coChar const *at) {
+    auto const four = [=](size_t i) { return vqmovn_u32(vreinterpretq_u32_u8(load(at + i))); };
+    return vcombine_u8(vqmovn_u16(vcombine_u16(four(0), four(4))), vqmovn_u16(vcombine_u16(four(8), four(12))));
+}
+
 inline void narrowOnce(uint8_t *bytes, Block low, Block high) {
     uint16x4_t const lowPairs = vmovn_u32(vreinterpretq_u32_u8(low));
     uint16x4_t const highPairs = vmovn_u32(vreinterpretq_u32_u8(high));
@@ -181,13 +215,11 @@ inline void narrowOnce(uint8_t *bytes, Block low, Block high) {
 // The first of `size` places that a mask says yes for. `maskAt` gives the mask of a block of places, of which there is one
 // at least. The last block overlaps the one before it, which has nothing.
 template <class MaskAt> [[gnu::always_inline]] inline size_t firstPlace(size_t size, MaskAt maskAt) {
-    size_t at = 0;
-    for (; at + blockSize <= size; at += blockSize)
+    size_t const last = size - blockSize;
+    for (size_t at = 0;; at = at + blockSize < last ? at + blockSize : last) {
         if (Mask const mask = maskAt(at)) return at + first(mask);
-    if (at == size) return size;
-    at = size - blockSize;
-    Mask const mask = maskAt(at);
-    return mask ? at + first(mask) : size;
+        if (at == last) return size;
+    }
 }
 
 [[gnu::always_inline]] inline size_t find(std::string_view text, char wanted) {
@@ -195,6 +227,7 @@ template <class MaskAt> [[gnu::always_inline]] inline size_t firstPlace(size_t s
     return firstPlace(text.size(), [&](size_t at) { return highBits(equal(load(text.data() + at), wanted)); });
 }
 
+// To be a local variable of a loop, whose registers it then lives in.
 class Places {
 public:
     Places(std::string_view whole, char wantedByte) : text(whole), wanted(wantedByte) {}
@@ -214,10 +247,13 @@ private:
         char const *const step = text.data() + searched;
         size_t const left = text.size() - searched;
         searched += stepSize;
-        if (left >= stepSize) return equalInStep(step, wanted);
+        return left >= stepSize ? equalInStep(step, wanted) : equalInLast({step, left}, wanted);
+    }
+
+    [[gnu::noinline]] static StepMask equalInLast(std::string_view rest, char wanted) {
         char last[stepSize];
         std::memset(last, ~wanted, sizeof last);
-        std::memcpy(last, step, left);
+        std::memcpy(last, rest.data(), rest.size());
         return equalInStep(last, wanted);
     }
 
@@ -226,6 +262,15 @@ private:
     size_t searched = 0;
     StepMask mask = 0; // of the places in the step that was searched last
 };
+
+inline size_t uriRun(std::u32string_view text) {
+    if (text.size() < blockSize) return scalar::uriRun(text);
+    return firstPlace(text.size(), [=](size_t at) {
+        Block const bytes = narrowed(text.data() + at);
+        Block const letters = either(inRange(bytes, 'a', 'z'), inRange(bytes, '@', 'Z')); // and "@"
+        return highBits(equal(either(letters, inRange(bytes, '-', ':')), '\0'));
+    });
+}
 
 inline size_t asciiRun(std::string_view text) {
     if (text.size() < blockSize) return scalar::asciiRun(text);
@@ -292,9 +337,10 @@ namespace co {
 
 // The place of the first CR LF, or the text's size.
 inline size_t findLineEnd(std::string_view text) {
-    simd::Places returns(text, '\r');
-    for (size_t at = returns.next(); at + 1 < text.size(); at = returns.next())
-        if (text[at + 1] == '\n') return at;
+    for (size_t at = 0; at < text.size(); at++) {
+        at += simd::find(std::string_view(text.data() + at, text.size() - at), '\r');
+        if (at + 1 < text.size() && text[at + 1] == '\n') return at;
+    }
     return text.size();
 }
 

@@ -49,8 +49,11 @@ coString *co::makeString(Chars text) {
 }
 
 coString *co::makeStringFromUtf8(std::string_view valid) {
-    coString *string = makeString(countUtf8(valid).chars);
-    string->length = widenUtf8(string->chars(), valid) - string->chars();
+    int64_t const count = countUtf8(valid).chars;
+    coString *string = makeString(count);
+    string->length = count;
+    bool const ascii = count == static_cast<int64_t>(valid.size());
+    ascii ? widenAscii(string->chars(), valid) : widenUtf8(string->chars(), valid);
     return string;
 }
 

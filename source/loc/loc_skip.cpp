@@ -6,6 +6,7 @@
 #include <co/co_assert.hpp>
 #include <co/co_ip.hpp>
 #include <co/co_scan.hpp>
+#include <co/co_simd.hpp>
 #include <co/co_unicode.hpp>
 #include <loc/loc_skip.h>
 #include <loc/loc_skip.hpp>
@@ -46,7 +47,8 @@ constexpr Members membersOf(CharSet set) {
 }
 
 constexpr Members isPlain = membersOf(plain);
-constexpr Members isPlainInSip = membersOf(plain + "/[]");
+constexpr Members isPlainInSip = membersOf(plain + "/[]"); // whose host may be an IPv6 reference
+constexpr Members isUsualInSip = membersOf(plain + "/[]:;@");
 
 int64_t runOf(Members const &members, Chars text, int64_t from) {
     coChar const *at = text.data() + from;
@@ -55,14 +57,13 @@ int64_t runOf(Members const &members, Chars text, int64_t from) {
     return at - text.data();
 }
 
-// What stands in all parts of a SIP URI, whose host may be an IPv6 reference.
+// What stands in all parts of a SIP URI.
 constexpr CharSet sipDelimiters = ":;@";
 
 enum class Part { path, query, fragment }; // an authority is the beginning of the path here
 
 // scheme = ALPHA *( ALPHA / DIGIT / "+" / "-" / "." ), and its colon
 int64_t schemeLength(Chars text) {
-    if (text.size() > 4 && co::equal(text.substr(0, 4), U"sip:")) return 4; // as nearly always
     if (text.empty() || !co::asciiAlpha.has(text[0])) return 0;
     size_t at = 1;
     while (at < text.size() && schemeChars.has(text[at])) at++;
@@ -122,7 +123,7 @@ int64_t hierPartLength(Chars text, coChar end) {
 
 // What follows "sip:" or "sips:". Whether a comma belongs to it shows only at the "@" behind it. Looking for that no
 // further than to a second colon keeps the scanning of a list linear: its elements hold a colon each.
-int64_t sipPartLength(Chars text, coChar end) {
+int64_t anySipPartLength(Chars text, coChar end) {
     int64_t comma = -1; // the first one, as long as it is in doubt
     int colons = 0;
     bool userMayFollow = true;
@@ -146,14 +147,34 @@ int64_t sipPartLength(Chars text, coChar end) {
     return comma >= 0 ? comma : at;
 }
 
-} // namespace
+// Whether a SIP URI may go on with a character that is none of the usual ones.
+bool maySipPartGoOn(coChar ch) { return ch == U',' || ch == U'?' || ch == U'%' || ch == U'#' || ch >= 128; }
 
-int64_t loc::iriLength(Chars text, coChar end) {
+int64_t sipPartLength(Chars text, coChar end) {
+    constexpr size_t worthwhile = 16;
+    auto const begin = static_cast<int64_t>(text.size() < worthwhile ? 0 : co::simd::uriRun(text));
+    Chars const usual(text.data(), static_cast<size_t>(runOf(isUsualInSip, text, begin)));
+    if (usual.size() < text.size() && maySipPartGoOn(text[usual.size()])) return anySipPartLength(text, end);
+    return co::length(end == loc::noChar ? usual : usual.substr(0, usual.find(end)));
+}
+
+// Of any scheme.
+[[gnu::noinline]] int64_t anyIriLength(Chars text, coChar end) {
     int64_t const scheme = schemeLength(text);
     if (scheme == 0) return 0;
     Chars const rest = from(text, scheme);
-    int64_t const length = isSip(co::chars(text.data(), scheme)) ? sipPartLength(rest, end) : hierPartLength(rest, end);
+    int64_t const length =
+        isSip(co::chars(text.data(), scheme)) ? anySipPartLength(rest, end) : hierPartLength(rest, end);
     return length == 0 ? 0 : scheme + length;
+}
+
+} // namespace
+
+int64_t loc::iriLength(Chars text, coChar end) {
+    constexpr Chars sip = U"sip:"; // nearly always
+    if (!text.starts_with(sip)) return anyIriLength(text, end);
+    int64_t const length = sipPartLength(text.substr(sip.size()), end);
+    return length == 0 ? 0 : co::length(sip) + length;
 }
 
 int64_t loc___SkipIri(coChar const *chs, int64_t length) {

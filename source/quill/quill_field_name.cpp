@@ -160,32 +160,45 @@ uint64_t wordAt(char const *text) {
     return word;
 }
 
-// What the bits that a mask takes from each word of a text differ in.
-uint64_t difference(Words const &text, Words const &wanted, Words const &mask) {
-    static_assert(std::tuple_size_v<Words> == 3);
-    return ((text[0] ^ wanted[0]) & mask[0]) | ((text[1] ^ wanted[1]) & mask[1]) | ((text[2] ^ wanted[2]) & mask[2]);
+struct FieldName {
+    int known; // -1 for none
+    bool normal;
+};
+
+// What the bits that a mask takes from each word of a text differ in. All words behind a known name are zeros.
+template <size_t count>
+uint64_t difference(std::array<uint64_t, count> const &text, Words const &wanted, Words const &mask) {
+    uint64_t bits = 0;
+    for (size_t i = 0; i < count; i++) bits |= (text[i] ^ wanted[i]) & mask[i];
+    return bits;
 }
 
-// A name of more than one letter that a text begins with.
-inline quill::FieldName match(Words const &text, size_t length) {
+// A name of more than one letter, and no longer than `text`, that `text` begins with.
+template <size_t count>
+[[gnu::always_inline]] inline FieldName match(std::array<uint64_t, count> const &text, size_t length) {
     int const i = candidate(text[0] & firstWordMasks[length], length);
     if (i < 0) return {-1, false};
     Known const &forms = knownForms[static_cast<size_t>(i)];
-    if (difference(text, forms.normal, forms.inName) == 0) return {i, true};
-    return {difference(text, forms.normal, forms.counts) == 0 ? i : -1, false};
+    bool const isNormal = difference(text, forms.normal, forms.inName) == 0;
+    bool const isKnown = isNormal || difference(text, forms.normal, forms.counts) == 0;
+    return {isKnown ? i : -1, isNormal};
 }
 
-// `readable` bytes can be read from the name's start on: as many as are compared, or else the name is copied.
-inline quill::FieldName match(std::string_view name, size_t readable) {
-    char const *const text = name.data();
-    size_t const length = name.size();
-    if (length <= 1) return {length == 0 ? -1 : findCompactName(*text), false};
-    if (length > longest) return {-1, false};
-    if (readable >= longest) return match({wordAt(text), wordAt(text + 8), wordAt(text + 16)}, length);
-    if (readable >= 16 && length <= 16) return match({wordAt(text), wordAt(text + 8), 0}, length);
+// A name of any length, which is copied: what stands behind it may not be there to be read.
+[[gnu::noinline]] FieldName matchCopy(std::string_view name) {
+    if (name.size() <= 1) return {name.empty() ? -1 : findCompactName(name[0]), false};
+    if (name.size() > longest) return {-1, false};
     Words copy{};
-    std::memcpy(&copy, text, length);
-    return match(copy, length);
+    std::memcpy(&copy, name.data(), name.size());
+    return match(copy, name.size());
+}
+
+// `readable` bytes can be read from the name's start on. Most names have no more than two words.
+inline FieldName match(std::string_view name, size_t readable) {
+    constexpr size_t usual = 16;
+    char const *const text = name.data();
+    bool const isUsual = name.size() - 2 <= usual - 2 && readable >= usual;
+    return isUsual ? match(std::array{wordAt(text), wordAt(text + 8)}, name.size()) : matchCopy(name);
 }
 
 int findKnown(std::string_view name) { return match(name, name.size()).known; }
@@ -230,8 +243,10 @@ namespace quill {
 
 int knownFieldName(std::string_view name) { return findKnown(name); }
 int knownFieldName(co::Chars name) { return findKnown(name); }
-FieldName matchFieldName(std::string_view name, char const *end) {
-    return match(name, static_cast<size_t>(end - name.data()));
+int matchFieldName(std::string_view name, char const *end, bool *isNormal) {
+    FieldName const field = match(name, static_cast<size_t>(end - name.data()));
+    *isNormal = field.normal;
+    return field.known;
 }
 
 static_assert(std::size(known) == knownFieldNameCount);

@@ -14,11 +14,7 @@ int knownFieldName(co::Chars name);
 
 // The same, and whether the name is written in its normal form. The text that it stands in ends at `end`: a name with some
 // text behind it is compared in whole words.
-struct FieldName {
-    int known;
-    bool normal;
-};
-FieldName matchFieldName(std::string_view name, char const *end);
+int matchFieldName(std::string_view name, char const *end, bool *isNormal);
 
 inline constexpr int knownFieldNameCount = 65;
 inline constexpr int contentLengthFieldName = 59;       // the number of Content-Length

@@ -39,7 +39,7 @@ constexpr int64_t usualEntries = 20;
 constexpr uint32_t noEntry = UINT32_MAX;
 
 // What stands before the next line end; the rest stays without both.
-inline Bytes takeLine(Bytes *rest) {
+[[gnu::noinline]] Bytes takeLine(Bytes *rest) {
     size_t const end = co::findLineEnd(*rest);
     Bytes const line = rest->substr(0, end);
     rest->remove_prefix(std::min(end + 2, rest->size()));
@@ -83,7 +83,7 @@ struct HeaderSet : coObj {
     void copyFrom(HeaderSet const &source); // into a new set with room for all its entries
 
 private:
-    void grow();
+    [[gnu::cold]] void grow();
     void index(uint32_t place);
     void indexLast(uint32_t hash); // a new entry of another name
     void indexAll();
@@ -283,7 +283,7 @@ public:
     int64_t capacity = 48;
 
 private:
-    void grow() {
+    [[gnu::cold]] void grow() {
         auto *more = static_cast<WireLine *>(coMemAllocN(capacity * 2, sizeof(WireLine)));
         std::copy(lines, lines + count, more);
         coMemFree(heap);
@@ -301,22 +301,27 @@ bool equals(Bytes bytes, co::Chars chars) {
 class Splitter {
 public:
     Splitter(Bytes all, bool toEmptyLine, HeaderSet *headerSet)
-        : text(all), returns(all, '\r'), untilEmptyLine(toEmptyLine), set(headerSet) {}
+        : text(all), untilEmptyLine(toEmptyLine), set(headerSet) {}
 
     // A header goes on in the lines that begin with a blank. Blanks that follow no header say nothing.
     bool split() {
-        char const *at = text.begin();
-        while (at < text.end()) {
-            char const *start = at;
-            char const *end = takeLine(&at);
+        co::simd::Places returns(text, '\r');
+        char const *start = text.begin(); // of a header
+        bool folded = false;
+        for (char const *at = start; at < text.end();) {
+            char const *const end = takeLine(returns, &at);
             if (start == end && untilEmptyLine) return finish(start, at);
-            while (start < end && isBlank(*start)) start++;
-            if (start == end) continue;
-            bool folded = false;
-            for (; at < text.end() && isBlank(*at); folded = true) end = takeLine(&at);
-            if (!keep(start, end, folded)) return false;
+            bool const goesOn = at < text.end() && isBlank(*at);
+            if (folded || goesOn || !keepUsual(start, end)) {
+                while (start < end && isBlank(*start)) start++;
+                folded = folded || (goesOn && start < end);
+                if (folded && goesOn) continue;
+                if (start < end && !keep(start, end, folded)) return false;
+                folded = false;
+            }
+            start = at;
         }
-        return finish(at, at);
+        return finish(text.end(), text.end());
     }
 
     Bytes headers; // what was split
@@ -332,7 +337,7 @@ private:
     }
 
     // The end of the line; the next one is at hand then.
-    [[gnu::always_inline]] char const *takeLine(char const **at) {
+    [[gnu::always_inline]] char const *takeLine(co::simd::Places &returns, char const **at) const {
         for (;;) {
             size_t const end = returns.next();
             if (end + 1 >= text.size()) return *at = text.end();
@@ -342,8 +347,26 @@ private:
         }
     }
 
+    // A line of a known name, with one blank behind the colon and none at another place: as nearly all are. False, and
+    // nothing is kept, for any other. No known name holds a line end, so that the search for the colon needn't mind it.
+    [[gnu::always_inline]] bool keepUsual(char const *start, char const *end) {
+        constexpr size_t nameRoom = 32; // and the colon: two blocks
+        static_assert(nameRoom > fieldNameRoom);
+        auto const left = static_cast<size_t>(text.end() - start);
+        Bytes const name(start, co::simd::find(Bytes(start, std::min(left, nameRoom)), ':'));
+        bool isNormal;
+        int const known = matchFieldName(name, text.end(), &isNormal);
+        if (known < 0 || end - name.end() < 3 || name.end()[1] != ' ') return false;
+        Bytes const value(name.end() + 2, end);
+        if (isBlank(value.front()) || isBlank(value.back())) return false;
+        addLine(start, value, {.folded = false, .plain = true, .canonical = isNormal});
+        countWritten(known, name.size(), value.size());
+        enter(set->find(known), fieldNameAt(known), known);
+        return true;
+    }
+
     // field-name HCOLON field-value, the name in one piece and the value in one or more
-    bool keep(char const *start, char const *end, bool folded) {
+    [[gnu::noinline]] bool keep(char const *start, char const *end, bool folded) {
         char const *const colon = start + co::simd::find(Bytes(start, text.end()), ':');
         if (colon >= end || colon == start) return false;
         Bytes name(start, colon);
@@ -357,20 +380,35 @@ private:
             name = folded ? pieceOf(name) : withoutBlanks(name);
             value = withoutBlanks(value);
         }
-        FieldName const field = matchFieldName(name, text.end());
+        bool isNormal;
+        int const known = matchFieldName(name, text.end(), &isNormal);
+        addLine(start, value, {folded && value.find("\r\n") != Bytes::npos, usual, usual && isNormal});
+        countWritten(known, name.size(), value.size());
+        if (known < 0) return enterUnknown(name, usual);
+        enter(set->find(known), fieldNameAt(known), known);
+        return true;
+    }
+
+    struct Form {
+        bool folded;
+        bool plain;
+        bool canonical;
+    };
+
+    void addLine(char const *start, Bytes value, Form form) {
         WireLine *const line = index.add();
         line->start = offset(start);
         line->value = offset(value.begin());
         line->length = static_cast<uint32_t>(value.size());
         line->next = noLine;
-        line->folded = folded && value.find("\r\n") != Bytes::npos;
-        line->plain = usual;
-        line->canonical = usual && field.normal;
-        size_t const nameLength = field.known < 0 ? name.size() : fieldNameText(field.known).size();
-        encodedLength += static_cast<int64_t>(nameLength + value.size()) + 4;
-        if (field.known < 0) return enterUnknown(name, usual);
-        enter(set->find(field.known), fieldNameAt(field.known), field.known);
-        return true;
+        line->folded = form.folded;
+        line->plain = form.plain;
+        line->canonical = form.canonical;
+    }
+
+    void countWritten(int known, size_t nameLength, size_t valueLength) {
+        if (nameLength == 1 && known >= 0) nameLength = fieldNameText(known).size(); // of a compact form
+        encodedLength += static_cast<int64_t>(nameLength + valueLength) + 4;
     }
 
     bool enterUnknown(Bytes name, bool usual) {
@@ -403,7 +441,6 @@ private:
     uint32_t offset(char const *at) const { return static_cast<uint32_t>(at - text.begin()); }
 
     Bytes const text;
-    co::simd::Places returns;
     bool const untilEmptyLine;
     HeaderSet *const set;
 };
@@ -452,17 +489,21 @@ HeaderEntry const *HeaderTable::find(int known) const {
     return place == noEntry ? nullptr : &set->entries[place];
 }
 
-// The bytes of a line's value, joined where it is folded.
+// The pieces of a folded value, joined.
+[[gnu::noinline]] static coChar *widenFolded(WireText const *text, coChar *chars, Bytes folded) {
+    coChar *end = chars;
+    forEachPiece(folded, [&](Bytes piece) {
+        if (end != chars) *end++ = U' ';
+        end = text->widen(end, piece);
+    });
+    return end;
+}
+
 static coString *makeLine(WireText const *text, WireLine const &line) {
     Bytes const value = text->valueOf(line);
     if (!line.folded) return co::makeStringFromUtf8(value);
     coString *joined = co::makeString(static_cast<int64_t>(value.size()));
-    coChar *end = joined->chars();
-    forEachPiece(value, [&](Bytes piece) {
-        if (end != joined->chars()) *end++ = U' ';
-        end = text->widen(end, piece);
-    });
-    joined->length = end - joined->chars();
+    joined->length = widenFolded(text, joined->chars(), value) - joined->chars();
     return joined;
 }
 
@@ -482,6 +523,14 @@ struct quillMessageHeader *HeaderTable::header(co::Chars name) const {
 struct quillMessageHeader *HeaderTable::header(coString const *normal) const {
     HeaderEntry const *entry = find(normal);
     return entry ? makeHeader(headers.get(), *entry) : nullptr;
+}
+
+Bytes HeaderTable::lastReceived(int known) const {
+    HeaderEntry const *entry = find(known);
+    if (!entry || entry->header) return {};
+    WireText const *text = headers->text;
+    WireLine const &line = text->lines()[entry->last];
+    return line.folded ? Bytes() : text->valueOf(line);
 }
 
 coVector *HeaderTable::vector() const {
@@ -528,26 +577,20 @@ co::Chars Lines::copy(uint32_t index, coChar *to) const {
     }
     WireLine const &line = text->lines()[index];
     Bytes const value = text->valueOf(line);
-    coChar *end = to;
-    if (!line.folded) {
-        end = text->widen(to, value);
-    } else {
-        forEachPiece(value, [&](Bytes piece) {
-            if (end != to) *end++ = U' ';
-            end = text->widen(end, piece);
-        });
-    }
+    coChar *const end = line.folded ? widenFolded(text, to, value) : text->widen(to, value);
     return {to, static_cast<size_t>(end - to)};
 }
 
 co::Chars Lines::view(uint32_t index) {
     if (strings) return co::stringAt(strings, index)->view();
-    if (length(index) > capacity) {
-        coMemFree(heap);
-        capacity = length(index);
-        heap = static_cast<coChar *>(coMemAllocN(capacity, sizeof(coChar)));
-    }
+    if (length(index) > capacity) reserve(length(index));
     return copy(index, heap ? heap : local);
+}
+
+void Lines::reserve(int64_t length) {
+    coMemFree(heap);
+    capacity = length;
+    heap = static_cast<coChar *>(coMemAllocN(capacity, sizeof(coChar)));
 }
 
 int64_t Lines::room() const {

@@ -86,6 +86,9 @@ public:
     // The header of a normal name, owned, or null.
     struct quillMessageHeader *header(co::Chars name) const;
 
+    // The last line of a known name as it was received, where that is in one piece; else an empty text.
+    std::string_view lastReceived(int known) const;
+
     // A new vector of the headers in order.
     coVector *vector() const;
 
@@ -144,6 +147,7 @@ private:
     co::Chars view(uint32_t index);
     co::Chars copy(uint32_t index, coChar *to) const;
     int64_t length(uint32_t index) const; // at most
+    [[gnu::cold]] void reserve(int64_t length);
 
     coVector const *strings = nullptr; // of a raw header, or else
     WireText const *text = nullptr;    // the received bytes

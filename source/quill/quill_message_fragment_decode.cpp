@@ -113,15 +113,25 @@ StartLine decodeStartLine(quillMessageFragment *frag, Bytes line) {
     return version ? decodeStatusLine(frag, version.get(), rest) : StartLine::absent;
 }
 
-// The last line of the Content-Length header counts. True with -1 where there is none.
-bool readContentLength(quillMessageFragment const *frag, int64_t *contentLength) {
+// Leaves `length` as it is where the text is none.
+template <class Text> bool isLength(Text text, int64_t *length) {
+    int64_t value = 0;
+    if (!isInteger(text, &value) || value < 0) return false;
+    *length = value;
+    return true;
+}
+
+// Of a value that is absent, empty or folded. True with -1 where it is absent.
+[[gnu::noinline]] bool readOtherContentLength(quillMessageFragment const *frag, int64_t *contentLength) {
     quill::Lines lines(frag->headers, quill::contentLengthFieldName);
     co::Chars line;
-    if (!lines.last(&line)) return true;
-    int64_t value = 0;
-    if (!isInteger(line, &value) || value < 0) return false;
-    *contentLength = value;
-    return true;
+    return !lines.last(&line) || isLength(line, contentLength);
+}
+
+// The last line of the Content-Length header counts.
+bool readContentLength(quillMessageFragment const *frag, int64_t *contentLength) {
+    Bytes const received = frag->headers.lastReceived(quill::contentLengthFieldName);
+    return received.empty() ? readOtherContentLength(frag, contentLength) : isLength(received, contentLength);
 }
 
 // Start line and headers: all that is given, or up to the empty line. What follows that stays.

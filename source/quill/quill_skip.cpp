@@ -290,7 +290,7 @@ QUILL_RULE(genericParams, repeated(semi, genericParam))
 QUILL_DEFINE_SKIP(GenericParams, genericParams)
 
 // via-received = "received" EQUAL ( IPv6address / IPv4address )
-QUILL_RULE(viaReceived, sequence(name(U"received"), equal, firstOf(ipV6Address, ipV4Address)))
+QUILL_RULE(viaReceived, sequence(name(U"received"), equal, firstOf(ipV4Address, ipV6Address)))
 QUILL_DEFINE_SKIP(ViaReceived, viaReceived)
 
 // via-params = via-received / generic-param

@@ -54,6 +54,35 @@ void expectSameOfChars(std::u32string_view text) {
     ASSERT_EQ(narrowed.view(), expected.view());
     for (coChar wanted : {U'%', U'\x80', U'\x10FFFF', U'\0'})
         ASSERT_EQ(co::simd::contains(text, wanted), co::scalar::contains(text, wanted));
+    ASSERT_EQ(co::simd::uriRun(text), co::scalar::uriRun(text));
+}
+
+// Whatever a code point's higher bits are.
+TEST(Simd, RunsOfUrisHaveTheirMembersAlone) {
+    constexpr std::u32string_view members = U"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-./:@";
+    for (coChar low = 0; low < 0x200; low++)
+        for (coChar high :
+             {0u, 0x7E00u, 0x7F00u, 0x8000u, 0xFF00u, 0x10000u, 0x10FF00u, 0x7FFF0000u, 0x80000000u, ~0x1FFu}) {
+            coChar const ch = high | low;
+            size_t const expected = members.find(ch) == members.npos ? 5 : 16;
+            std::u32string text(16, U'a');
+            text[5] = ch;
+            ASSERT_EQ(co::simd::uriRun(text), expected) << static_cast<uint32_t>(ch);
+            ASSERT_EQ(co::scalar::uriRun(text), expected) << static_cast<uint32_t>(ch);
+        }
+}
+
+TEST(Simd, RunsOfUrisEndAtEachPlaceOfEachLength) {
+    for (size_t size = 0; size <= 70; size++)
+        for (size_t alignment = 0; alignment < 4; alignment++) {
+            Placed<coChar> text(alignment, std::u32string(size, U'z'));
+            ASSERT_EQ(co::simd::uriRun(text.view()), size);
+            for (size_t at = 0; at < size; at++) {
+                text[at] = U'>';
+                ASSERT_EQ(co::simd::uriRun(text.view()), at) << size;
+                text[at] = U'@';
+            }
+        }
 }
 
 TEST(Simd, ContainsACodePointAtEachPlaceOfEachLength) {

@@ -1,5 +1,7 @@
 #include <loc/loc_skip.h>
+#include <loc/loc_skip.hpp>
 #include <memory>
+#include <random>
 #include <support/text.hpp>
 
 using namespace std::literals;
@@ -198,6 +200,44 @@ TEST(LocSkip, CommasInSipIris) {
                {"sips:a,b", 6, "the other scheme"},
                {"SIP:a,b@h", whole, "the scheme's letter case"},
                {"sipx:a@h,b", whole, "another scheme"}});
+}
+
+// Usual texts have a short way, which the scheme in capitals never takes.
+void expectAsInCapitals(std::u32string const &part) {
+    auto const length = [&](coChar const *scheme, coChar end) {
+        std::u32string const text = scheme + part;
+        auto const copy = std::make_unique<coChar[]>(text.size());
+        text.copy(copy.get(), text.size());
+        return loc::iriLength({copy.get(), text.size()}, end);
+    };
+    for (coChar const end : {loc::noChar, U';', U':', U'@', U','})
+        ASSERT_EQ(length(U"sip:", end), length(U"SIP:", end)) << testing::PrintToString(part);
+}
+
+TEST(LocSkip, SipIrisOfAllLengths) {
+    for (size_t size = 0; size <= 70; size++)
+        for (std::u32string_view tail :
+             {U"",       U">",      U" ",          U";x", U"@h",  U"@h;x>", U",",        U",b@h",   U":1:2,b@h",
+              U"?a=b>",  U"#f",     U"%41>",       U"%4", U"%zz", U"%",     U"\u00E9@h", U"\uE000", U"?\uE000",
+              U"[::1]>", U"\u0100", U"\U00100061", U"^",  U"`",   U"{",     U"\x7F"}) {
+            expectAsInCapitals(std::u32string(size, U'z') + std::u32string(tail));
+            expectAsInCapitals(std::u32string(size, U'z') + std::u32string(tail) + std::u32string(20, U'y'));
+            if (testing::Test::HasFatalFailure()) return;
+        }
+    std::u32string const user(40, U'u');
+    EXPECT_EQ(scan(loc___SkipIri, U"sip:" + user + U"@h>" + user), 46);
+}
+
+TEST(LocSkip, SipIrisOfRandomTexts) {
+    constexpr std::u32string_view chars = U"aZ09-._~!$&'()*+=/[]:;@::;;@@,,?%#41 <>\"\u00E9\uE000\uFFFD";
+    std::mt19937 random(1);
+    for (int round = 0; round < 50000; round++) {
+        std::u32string part(random() % 20, U'x');
+        for (size_t i = random() % 30; i-- > 0;)
+            part.insert(random() % (part.size() + 1), 1, chars[random() % chars.size()]);
+        expectAsInCapitals(part);
+        if (testing::Test::HasFatalFailure()) return;
+    }
 }
 
 TEST(LocSkip, IpV4Address) {

@@ -122,10 +122,20 @@ void expectAsPlain(Text whole, Text startLine) {
 
 constexpr Text bye = "BYE sip:a@b SIP/2.0";
 
-// A header of any text behind a filler that moves it over the borders of what is searched at once.
+std::string withNames(std::string text, Text first, Text second) {
+    for (auto [letters, name] : {std::pair(Text("a0"), first), std::pair(Text("c0"), second)})
+        for (size_t at; (at = text.find(letters)) != text.npos;) text.replace(at, letters.size(), name);
+    return text;
+}
+
+// Headers of any text, of unknown names and of known ones, behind a filler that moves them over the borders of what is
+// searched at once.
 void expectAsPlainAtAllOffsets(Text text) {
     for (size_t filler = 0; filler < 70; filler++) {
-        expectAsPlain(std::string(bye) + "\r\nZ:" + std::string(filler, 'z') + "\r\n" + std::string(text), bye);
+        std::string const start = std::string(bye) + "\r\nZ:" + std::string(filler, 'z') + "\r\n";
+        expectAsPlain(start + std::string(text), bye);
+        expectAsPlain(start + withNames(std::string(text), "To", "v"), bye);
+        expectAsPlain(start + withNames(std::string(text), "Record-Route", "Accept-Resource-Priority"), bye);
         if (testing::Test::HasFatalFailure()) return;
     }
 }
@@ -263,17 +273,24 @@ TEST(HeaderLines, AgreeWithThePlainReadingOfRandomTexts) {
 
 // Names that are known, whatever stands behind them.
 
+struct Match {
+    int known;
+    bool normal;
+};
+
 // A name with some bytes behind it that end where their memory does.
-quill::FieldName match(Text name, size_t behind) {
+Match match(Text name, size_t behind) {
     std::unique_ptr<char[]> const text(new char[name.size() + behind]);
     std::copy(name.begin(), name.end(), text.get());
     std::fill_n(text.get() + name.size(), behind, ':');
-    return quill::matchFieldName({text.get(), name.size()}, text.get() + name.size() + behind);
+    Match match{};
+    match.known = quill::matchFieldName({text.get(), name.size()}, text.get() + name.size() + behind, &match.normal);
+    return match;
 }
 
 void expectMatch(Text name, int known, bool normal) {
     for (size_t behind = 0; behind < 30; behind++) {
-        quill::FieldName const field = match(name, behind);
+        Match const field = match(name, behind);
         ASSERT_EQ(field.known, known) << name << " with " << behind;
         ASSERT_EQ(field.normal, normal) << name << " with " << behind;
     }
@@ -308,7 +325,7 @@ TEST(FieldNames, MatchInAnyCase) {
 TEST(FieldNames, CompactFormsAndStrangers) {
     for (char ch = 0; ch < 127; ch++) {
         bool const compact = std::strchr("auimelcofynbjdxsrktvAUIMELCOFYNBJDXSRKTV", ch) && ch;
-        quill::FieldName const field = match({&ch, 1}, 24);
+        Match const field = match({&ch, 1}, 24);
         EXPECT_EQ(field.known >= 0, compact) << ch;
         EXPECT_FALSE(field.normal);
     }

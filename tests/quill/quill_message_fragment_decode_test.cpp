@@ -1,5 +1,8 @@
 #include "objects.hpp"
 
+#include <cstdlib>
+#ifdef __GLIBC__
+#endif
 #include <support/cost.hpp>
 
 using namespace test;
