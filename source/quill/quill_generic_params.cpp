@@ -34,6 +34,16 @@ struct quillGenericParams : coObj {
     static constexpr auto comparison() { return members(); }
 };
 
+// The table is no word that holds a reference: it frees and copies what it holds itself.
+template <> void co::freeMembers<quillGenericParams>(coObj *obj) {
+    static_cast<quillGenericParams *>(obj)->params.poison();
+}
+template <> quillGenericParams *co::makeCopy(quillGenericParams const *source) {
+    auto *copied = make<quillGenericParams>();
+    copied->params.copy(source->params);
+    return copied;
+}
+
 QUILL_DEFINE_VALUE(GenericParams, GENERIC_PARAMS, genericParams)
 
 struct quillGenericParams *quill::noGenericParams() {

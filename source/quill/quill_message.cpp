@@ -19,12 +19,17 @@ struct quillMessage : coObj {
 QUILL_DEFINE_SORT(Message, MESSAGE, nullptr, nullptr)
 QUILL_DEFINE_CREATE_FROM(Message)
 
-struct quillMessage *quillMessageCreate(struct quillMessageFragment *fragment) {
+// Takes the fragment over.
+static quillMessage *makeMessage(struct quillMessageFragment *fragment) {
     CO_ASSERT(quillMessageFragmentIsRequest(fragment) || quillMessageFragmentIsResponse(fragment),
               "quillMessageFragmentIsRequest( fragment ) || quillMessageFragmentIsResponse( fragment )");
     auto *msg = co::make<quillMessage>();
-    msg->fragment.set(fragment);
+    msg->fragment.adopt(fragment);
     return msg;
+}
+
+struct quillMessage *quillMessageCreate(struct quillMessageFragment *fragment) {
+    return makeMessage(co::retained(fragment));
 }
 
 struct quillMessageFragment *quillMessageFragment(struct quillMessage const *msg) {
@@ -40,8 +45,7 @@ quill::HeaderTable const &quill::headersOf(quillMessage const *msg) { return msg
 
 #define CREATE(Name, parameters, arguments)                                                                            \
     struct quillMessage *quillMessage##Name parameters {                                                               \
-        co::Ref<struct quillMessageFragment> const fragment(quillMessageFragment##Name arguments);                     \
-        return quillMessageCreate(fragment.get());                                                                     \
+        return makeMessage(quillMessageFragment##Name arguments);                                                      \
     }
 
 #define READ(Result, Name, parameters, arguments)                                                                      \
@@ -131,9 +135,9 @@ CHANGE(SetBody, (struct coBuffer * body), (body))
 CHANGE(DelBody, (), ())
 
 struct quillMessage *quillMessageTryDecode(struct coBuffer const *buf) {
-    co::Ref<struct quillMessageFragment> const fragment(quillMessageFragmentTryDecode(buf));
+    co::Ref<struct quillMessageFragment> fragment(quillMessageFragmentTryDecode(buf));
     if (!fragment) return nullptr;
     if (!quillMessageFragmentIsRequest(fragment.get()) && !quillMessageFragmentIsResponse(fragment.get()))
         return nullptr;
-    return quillMessageCreate(fragment.get());
+    return makeMessage(fragment.take());
 }

@@ -1,8 +1,5 @@
 #include "objects.hpp"
 
-#include <cstdlib>
-#ifdef __GLIBC__
-#endif
 #include <support/cost.hpp>
 
 using namespace test;
