@@ -44,7 +44,7 @@ function(quill_use_counts)
   # What no sample reaches is compiled as if there were no profile; a unit without code has none.
   set(options -fprofile-use -fprofile-partial-training -fprofile-correction -Wno-missing-profile -flto=auto)
   target_compile_options(quill_objects PRIVATE ${options} -ffat-lto-objects)
-  target_link_options(quill_shared PRIVATE -O3 ${options})
+  target_link_options(quill_shared PRIVATE -O3 ${options} -flto-partition=one)
 
   # The static library is for linkers of every kind: it keeps the machine code alone.
   add_custom_command(
