@@ -57,6 +57,6 @@ endfunction()
 
 if(QUILL_PROFILE STREQUAL "count")
   quill_count()
-elseif(QUILL_PROFILE)
+elseif(QUILL_PROFILE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_CROSSCOMPILING)
   quill_use_counts()
 endif()
