@@ -31,6 +31,20 @@ static void pass(proxy const *proxy, quillMessage **msg) {
     encode(*msg);
 }
 
+// In pieces, as they come from a network.
+static void passStream(std::string const &bytes) {
+    constexpr size_t pieceSize = 64;
+    quillMessageStreamDecoder *decoder = quillMessageStreamDecoderCreate();
+    for (size_t at = 0; at < bytes.size(); at += pieceSize) {
+        coBuffer *piece = bufferOf(bytes.substr(at, pieceSize));
+        quillMessageStreamDecoderWrite(decoder, piece);
+        coBufferRelease(piece);
+        quillMessage *msg = quillMessageStreamDecoderRead(decoder);
+        if (msg) quillMessageRelease(msg);
+    }
+    quillMessageStreamDecoderRelease(decoder);
+}
+
 static void readTypedHeaders(quillMessage const *msg) {
     for (int64_t i = 0; i < quillTypedHeadersLength(); i++)
         if (coObj *header = quillTypedHeaderAt(i)->tryDecodeFromMessage(msg)) coObjRelease(header);
@@ -48,6 +62,7 @@ int main(int count, char **paths) {
             if (round == 0) readTypedHeaders(msg);
             encode(msg);
             pass(&proxy, &msg);
+            passStream(bytes);
             quillMessageRelease(msg);
         }
     }
