@@ -10,9 +10,7 @@ set(QUILL_COUNTED ${PROJECT_BINARY_DIR}/counted)
 function(quill_count)
   target_compile_options(quill_objects PRIVATE -fprofile-generate)
   target_link_options(quill_shared PRIVATE -fprofile-generate)
-  add_executable(count ${PROJECT_SOURCE_DIR}/source/profile/profile.cpp)
-  target_link_libraries(count PRIVATE quill_shared)
-  set_target_properties(count PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+  add_subdirectory(${PROJECT_SOURCE_DIR}/tools/profile ${PROJECT_BINARY_DIR}/tools/profile)
 endfunction()
 
 # In the build that is for use: what waits for the counts, and is compiled by them.
@@ -27,13 +25,14 @@ function(quill_use_counts)
     COMMAND
       ${CMAKE_COMMAND} -S ${PROJECT_SOURCE_DIR} -B ${QUILL_COUNTED} -G ${CMAKE_GENERATOR} -DQUILL_PROFILE=count
       -DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE} -DCMAKE_C_COMPILER=${CMAKE_C_COMPILER}
-      -DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER} -DQUILL_TOOLS=OFF -DQUILL_TESTS=OFF -DQUILL_BENCH=OFF
+      -DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER} "-DCMAKE_CXX_FLAGS=${CMAKE_CXX_FLAGS}" -DQUILL_TOOLS=OFF -DQUILL_TESTS=OFF -DQUILL_BENCH=OFF
     COMMAND ${CMAKE_COMMAND} --build ${QUILL_COUNTED} --target count
     COMMAND find ${QUILL_COUNTED}/${objects} -name *.gcda -delete
     COMMAND ${QUILL_COUNTED}/count ${samples}
     COMMAND ${CMAKE_COMMAND} -DFROM=${QUILL_COUNTED}/${objects} -DTO=${PROJECT_BINARY_DIR}/${objects} -P ${place}
     COMMAND ${CMAKE_COMMAND} -E touch ${counts}
-    DEPENDS ${sources} ${samples} ${place} ${PROJECT_SOURCE_DIR}/cmake/profile.cmake
+    DEPENDS ${sources} ${samples} ${place} ${PROJECT_SOURCE_DIR}/tools/profile/profile.cpp
+            ${PROJECT_SOURCE_DIR}/bench/workloads.h ${CMAKE_CURRENT_FUNCTION_LIST_FILE}
     COMMENT "Counting what runs how often"
     VERBATIM)
   add_custom_target(quill_counts DEPENDS ${counts})
