@@ -37,7 +37,8 @@ Limits const full{{1000, 2000, 4000, 8000, 10000, 16000, 32000, 64000}, 2, 2.5, 
 Limits const small{{250, 500, 1000, 2000}, 8, 20, 3, 3, 1000, 10000, 3};
 constexpr int attempts = 10;           // of a measurement that breaks a rule
 constexpr double shortestRun = 100e3;  // ns; shorter works are repeated
-constexpr int64_t fewBytes = 16 << 10; // what does not depend on the size, or stood ready already, at most
+constexpr int64_t fewBytes = 16 << 10; // what does not depend on the size, at most
+constexpr int64_t keptBytes = 3 << 10; // what a thread has kept, and takes in place of the heap's
 
 struct Point {
     int64_t n;
@@ -143,7 +144,7 @@ private:
         point.time = std::min(point.time, timeOf(shape.prepare(point.n), limits.repetitions));
     }
 
-    static double withFew(int64_t bytes) { return static_cast<double>(bytes + fewBytes); }
+    static double withFew(int64_t bytes) { return static_cast<double>(std::max(bytes, fewBytes) + keptBytes); }
 
     template <class Cost> double worst(Cost const &cost) const {
         double most = 0;

@@ -265,6 +265,7 @@ std::string ofDatagram(std::string_view bytes) {
 
 // Writes of many lengths end before, within and behind the end of the headers, and what looks like it.
 TEST(QuillMessageStreamDecoder, FindsTheEndOfTheHeadersInAnyPieces) {
+    constexpr size_t steps[] = {1, 2, 3, 4, 5, 15, 16, 17, 18, 19, 20, 63, 64, 65, 67, 80};
     for (size_t fill = 0; fill < 70; fill++) {
         std::string const value = "a\n\r\r\n b\n" + std::string(fill, 'x');
         std::string const bytes = "A b:c SIP/2.0\r\nl: 0\r\ns: " + value + "\r\n\r\n";
@@ -272,7 +273,7 @@ TEST(QuillMessageStreamDecoder, FindsTheEndOfTheHeadersInAnyPieces) {
         whole.write(bytes);
         std::string const expected = whole.show();
         EXPECT_EQ(expected.find("(null)"), std::string::npos);
-        for (size_t step : {1, 2, 3, 4, 5, 15, 16, 17, 18, 19, 20, 63, 64, 65, 67, 80}) {
+        for (size_t const step : steps) {
             Stream stream;
             std::vector<std::string> messages;
             for (size_t at = 0; at < bytes.size(); at += step) {
