@@ -471,22 +471,20 @@ bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine) {
 
 // Reading.
 
-HeaderEntry const *HeaderTable::find(co::Chars name, int known) const {
-    HeaderSet const *set = headers.get();
-    uint32_t const place = set ? set->find(name, known) : noEntry;
+static int knownNumber(coString const *normal) { return co::isImmortal(normal) ? knownFieldName(normal->view()) : -1; }
+
+static HeaderEntry const *entryAt(HeaderSet const *set, uint32_t place) {
     return place == noEntry ? nullptr : &set->entries[place];
 }
 
-HeaderEntry const *HeaderTable::find(co::Chars name) const { return find(name, knownFieldName(name)); }
-
-static int knownNumber(coString const *normal) { return co::isImmortal(normal) ? knownFieldName(normal->view()) : -1; }
-
-HeaderEntry const *HeaderTable::find(coString const *normal) const { return find(normal->view(), knownNumber(normal)); }
+HeaderEntry const *HeaderTable::find(coString const *normal) const {
+    HeaderSet const *set = headers.get();
+    return set ? entryAt(set, set->find(normal->view(), knownNumber(normal))) : nullptr;
+}
 
 HeaderEntry const *HeaderTable::find(int known) const {
     HeaderSet const *set = headers.get();
-    uint32_t const place = set ? set->find(known) : noEntry;
-    return place == noEntry ? nullptr : &set->entries[place];
+    return set ? entryAt(set, set->find(known)) : nullptr;
 }
 
 // The pieces of a folded value, joined.
@@ -515,8 +513,8 @@ static struct quillMessageHeader *makeHeader(HeaderSet const *set, HeaderEntry c
     return header;
 }
 
-struct quillMessageHeader *HeaderTable::header(co::Chars name) const {
-    HeaderEntry const *entry = find(name);
+struct quillMessageHeader *HeaderTable::header(int known) const {
+    HeaderEntry const *entry = find(known);
     return entry ? makeHeader(headers.get(), *entry) : nullptr;
 }
 

@@ -83,8 +83,8 @@ public:
     struct quillMessageHeader *header(coString const *normal) const;
     void remove(coString const *normal);
 
-    // The header of a normal name, owned, or null.
-    struct quillMessageHeader *header(co::Chars name) const;
+    // The header of a known name, owned, or null.
+    struct quillMessageHeader *header(int known) const;
 
     // The last line of a known name as it was received, where that is in one piece; else an empty text.
     std::string_view lastReceived(int known) const;
@@ -103,8 +103,6 @@ public:
 
 private:
     friend class Lines;
-    HeaderEntry const *find(co::Chars name) const;
-    HeaderEntry const *find(co::Chars name, int known) const;
     HeaderEntry const *find(coString const *normal) const;
     HeaderEntry const *find(int known) const; // by the number of a known name
 
@@ -114,7 +112,6 @@ private:
 // The lines of one header, read one after the other without anything being made of them that is kept.
 class Lines {
 public:
-    Lines(HeaderTable const &table, co::Chars name) : Lines(table.headers.get(), table.find(name)) {}
     Lines(HeaderTable const &table, int known) : Lines(table.headers.get(), table.find(known)) {}
     explicit Lines(struct quillMessageHeader const *header);
     Lines(Lines const &) = delete;

@@ -3,6 +3,7 @@
 #define CO_UNIT "source/quill/quill_message_fragment"
 
 #include <quill/quill_family.hpp>
+#include <quill/quill_field_name.hpp>
 #include <quill/quill_iri.h>
 #include <quill/quill_message_fragment.h>
 #include <quill/quill_message_fragment.hpp>
@@ -265,7 +266,7 @@ void quillMessageFragmentClearHeaders(struct quillMessageFragment **frag) {
 
 struct quillMessageHeader *quillMessageFragmentHeaderContentLength(struct quillMessageFragment const *frag) {
     CO_ASSERT_GIVEN(frag);
-    return frag->headers.header(quill___CosContentLength->view());
+    return frag->headers.header(quill::contentLengthFieldName);
 }
 
 // Body.
