@@ -22,9 +22,8 @@ static void *placeOfLowest(void *obj, uint64_t references) {
 static uint64_t withoutLowest(uint64_t references) { return references & (references - 1); }
 
 void *copyObject(coObj const *source, uint64_t references) {
-    coSort const *sort = source->itsSort;
-    int64_t const size = sort->sizeFunc ? sort->sizeFunc(source) : sort->size;
-    auto *obj = static_cast<coObj *>(allocateObject(size, sort));
+    int64_t const size = sizeOf(source);
+    auto *obj = static_cast<coObj *>(allocateObject(size, source->itsSort));
     std::memcpy(static_cast<void *>(obj + 1), source + 1, static_cast<size_t>(size) - sizeof(coObj));
     for (; references; references = withoutLowest(references)) {
         coObj *member;

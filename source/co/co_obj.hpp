@@ -103,6 +103,12 @@ template <class T> T *retained(T const *obj) {
     return const_cast<T *>(obj);
 }
 
+// The size of an object's memory; 0 where it is not known.
+inline int64_t sizeOf(coObj const *obj) {
+    coSort const *sort = obj->itsSort;
+    return sort->sizeFunc ? sort->sizeFunc(obj) : sort->size;
+}
+
 template <class T> int compare(T const *a, T const *b) { return a == b ? 0 : coObjCompare(header(a), header(b)); }
 
 // Memory for an object that no kept block is there for. Ends the process when there is none.

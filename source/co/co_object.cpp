@@ -40,7 +40,7 @@ struct coObj *co___ObjCreate(int64_t size, struct coSort const *sort) {
 
 // Apart, so that a string's way needs no stack.
 [[gnu::noinline]] static void freeOther(coObj *obj, coSort const *sort) {
-    int64_t const size = sort->sizeFunc ? sort->sizeFunc(obj) : sort->size; // asked while the object is whole
+    int64_t const size = co::sizeOf(obj); // asked while the object is whole
     if (sort->freeFunc) sort->freeFunc(obj);
     co::freeBlock(obj, size);
 }
