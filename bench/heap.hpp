@@ -1,5 +1,5 @@
-// What a program asks of the heap, the library's calls included: heap.cpp stands in for malloc and its like. Programs
-// of one thread only.
+// What a program asks of the heap, the library's calls included: heap.cpp stands in for malloc and its like. For one
+// thread at a time.
 #pragma once
 
 #include <cstdint>

@@ -15,6 +15,7 @@
 #include <cstring>
 #include <ctime>
 #include <quill/quill.h>
+#include <thread>
 
 using scaling::Rule;
 using scaling::Shape;
@@ -38,7 +39,6 @@ Limits const small{{250, 500, 1000, 2000}, 8, 20, 3, 3, 1000, 10000, 3};
 constexpr int attempts = 10;           // of a measurement that breaks a rule
 constexpr double shortestRun = 100e3;  // ns; shorter works are repeated
 constexpr int64_t fewBytes = 16 << 10; // what does not depend on the size, at most
-constexpr int64_t keptBytes = 3 << 10; // what a thread has kept, and takes in place of the heap's
 
 struct Point {
     int64_t n;
@@ -135,16 +135,23 @@ private:
         return 0;
     }
 
+    // In a thread of its own, which has kept no blocks: those of small works would not be the heap's.
+    static heap::Use memoryOf(Work const &work) {
+        heap::Use use{};
+        std::thread([&] { use = heap::use(work); }).join();
+        return use;
+    }
+
     void add(int64_t n) {
         Work const work = shape.prepare(n);
         work(); // first use fills what is kept
-        points.push_back({n, timeOf(work, limits.repetitions), heap::use(work)});
+        points.push_back({n, timeOf(work, limits.repetitions), memoryOf(work)});
     }
     void retry(Point &point) const {
         point.time = std::min(point.time, timeOf(shape.prepare(point.n), limits.repetitions));
     }
 
-    static double withFew(int64_t bytes) { return static_cast<double>(std::max(bytes, fewBytes) + keptBytes); }
+    static double withFew(int64_t bytes) { return static_cast<double>(std::max(bytes, fewBytes)); }
 
     template <class Cost> double worst(Cost const &cost) const {
         double most = 0;
