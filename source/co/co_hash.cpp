@@ -19,7 +19,7 @@ struct SipState {
         : v0(key.first ^ 0x736F6D6570736575), v1(key.second ^ 0x646F72616E646F6D), v2(key.first ^ 0x6C7967656E657261),
           v3(key.second ^ 0x7465646279746573) {}
 
-    void round() {
+    [[gnu::always_inline]] void round() {
         v0 += v1;
         v2 += v3;
         v1 = std::rotl(v1, 13) ^ v0;

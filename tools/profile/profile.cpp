@@ -1,5 +1,5 @@
 // Does with every message that it is given what a proxy does: takes it apart, reads the core, puts itself in, writes it.
-// And now and then what others do: reads all typed headers, takes messages off a stream.
+// And now and then what others do: reads all typed headers, takes messages off a stream, handles what has many parts.
 
 #include "../../bench/workloads.h"
 
@@ -9,6 +9,9 @@
 #include <string>
 
 static constexpr int rounds = 200;
+static constexpr int manyParts = 100;
+
+static std::string nameOf(int number) { return "X-" + std::to_string(number); }
 
 static coBuffer *bufferOf(std::string const &bytes) {
     return coBufferCreateFromBytesCopy(reinterpret_cast<uint8_t const *>(bytes.data()), std::ssize(bytes));
@@ -50,6 +53,31 @@ static void readTypedHeaders(quillMessage const *msg) {
         if (coObj *header = quillTypedHeaderAt(i)->tryDecodeFromMessage(msg)) coObjRelease(header);
 }
 
+// A message with many fields that nobody knows.
+static std::string messageOfMany() {
+    std::string lines;
+    for (int i = 0; i < manyParts; i++) lines += nameOf(i) + ": a\r\n";
+    return "OPTIONS sip:bob@example.org SIP/2.0\r\nVia: SIP/2.0/UDP example.org;branch=z9hG4bK1\r\n" + lines + "\r\n";
+}
+
+// What tables and sets are for.
+static void passMany(std::string const &bytes) {
+    quillMessage *msg = tryDecode(bytes);
+    quillGenericParams *params = quillGenericParamsCreate();
+    quillHeaderSupported *supported = quillHeaderSupportedCreate();
+    for (int i = 0; i < manyParts; i++) {
+        std::string const name = nameOf(i);
+        quillHeaderSupportedSetOptionTagCstr(&supported, name.c_str(), -1);
+        quillGenericParamsSetParamValueCstr(&params, name.c_str(), -1, QUILL_GENERIC_PARAM_VALUE_TYPE_TOKEN, "a", -1);
+        if (quillMessageHasHeaderCstr(msg, name.c_str(), -1)) quillMessageDelHeaderCstr(&msg, name.c_str(), -1);
+    }
+    for (int i = 0; i < manyParts; i++) quillGenericParamsDelParamCstr(&params, nameOf(i).c_str(), -1);
+    quillHeaderSupportedRelease(supported);
+    quillGenericParamsRelease(params);
+    encode(msg);
+    quillMessageRelease(msg);
+}
+
 int main(int count, char **paths) {
     coModuleLoad(quillModule());
     proxy const proxy = proxyCreate();
@@ -66,6 +94,7 @@ int main(int count, char **paths) {
             quillMessageRelease(msg);
         }
     }
+    for (int round = 0; round < rounds / 4; round++) passMany(messageOfMany());
     proxyRelease(&proxy);
     coModuleUnload(quillModule());
     return 0;
