@@ -134,12 +134,14 @@ bool coDictHasStringKey(struct coDict const *dict, struct coString const *key) {
 
 // Changing.
 
+void co::setTaken(coDict **dict, coString *key, coObj *value) { writable(dict).set({key, value}); }
+
 void coDictSetStringKey(struct coDict **dict, struct coString *key, struct coObj *value) {
     CO_ASSERT_REFERENCE(dict);
     CO_ASSERT_GIVEN(key);
     CO_ASSERT_GIVEN(value);
-    DictEntry const entry{co::retained(key), co::retained(value)}; // first: a dictionary put into itself is copied
-    writable(dict).set(entry);
+    co::setTaken(dict, co::retained(key),
+                 co::retained(value)); // retained first: a dictionary put into itself is copied
 }
 
 void coDictDelStringKey(struct coDict **dict, struct coString const *key) {

@@ -13,6 +13,9 @@ namespace co {
 // The value of a key, borrowed, or null.
 coObj *find(coDict const *dict, Chars key);
 
+// As coDictSetStringKey, but takes both over.
+void setTaken(coDict **dict, coString *key, coObj *value);
+
 struct DictEntry {
     coString *key;
     coObj *value;
@@ -24,6 +27,7 @@ struct DictEntry {
         co::retain(value);
     }
     void release() const {
+        if (value == header(key)) return releaseTwice(key); // in a set
         co::release(key);
         co::release(value);
     }

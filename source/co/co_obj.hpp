@@ -97,6 +97,15 @@ template <class T> void release(T *obj) {
         co___ObjFree(header(obj));
 }
 
+// Gives up two references to one object.
+template <class T> void releaseTwice(T *obj) {
+    if (header(obj)->count.load(std::memory_order_seq_cst) == 2)
+        header(obj)->count.store(1, std::memory_order_relaxed); // there is no third
+    else
+        release(obj);
+    release(obj);
+}
+
 // Getters hand out references to objects that they see as const: sharing is not a change.
 template <class T> T *retained(T const *obj) {
     if (obj) retain(obj);

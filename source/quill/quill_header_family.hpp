@@ -156,8 +156,7 @@ template <class H> H *makeSet() {
 
 // These take a token in its normal form over.
 template <class H> void addToken(H *own, coString *taken) {
-    co::Ref<coString> const token(taken);
-    coDictSetStringKey(own->tokens.address(), token.get(), token.get());
+    co::setTaken(own->tokens.address(), taken, co::header(co::retained(taken)));
 }
 template <class H> void deleteToken(H *own, coString *taken) {
     co::Ref<coString> const token(taken);
@@ -174,8 +173,10 @@ H *tryDecodeSet(Lines &lines, Scanner token, Scanner separator, coString *(*norm
     auto const take = [&](co::Chars text) {
         int64_t const count = measure(token, text);
         if (count == 0) return count;
-        co::Ref<coString> const found(co::makeString(upTo(text, count)));
-        addToken(hdr.get(), normalize(found.get()));
+        co::Ref<coString> found(co::makeString(upTo(text, count)));
+        co::Ref<coString> normal(normalize(found.get()));
+        if (normal.get() != found.get()) found.reset(co::retained(normal.get()));
+        co::setTaken(hdr->tokens.address(), normal.take(), co::header(found.take())); // it is key and value
         return count;
     };
     return readElements(lines, separator, take) ? hdr.take() : nullptr;
