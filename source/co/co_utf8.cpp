@@ -1,5 +1,6 @@
 // UTF-8, both ways. Contract: co_utf8.hpp.
 
+#include <algorithm>
 #include <co/co_simd.hpp>
 #include <co/co_utf8.hpp>
 
@@ -62,6 +63,28 @@ Utf8Count countUtf8(std::string_view bytes) {
             bytes.remove_prefix(decoded.bytes);
         }
     }
+}
+
+// At most `most` leading bytes, so that no character is cut in two.
+static std::string_view leadingPart(std::string_view bytes, size_t most) {
+    if (bytes.size() <= most) return bytes;
+    size_t size = most;
+    while (size > most - 3 && (static_cast<uint8_t>(bytes[size]) & 0xC0) == 0x80) size--;
+    return bytes.substr(0, size);
+}
+
+Utf8Count copyUtf8(char *to, std::string_view bytes) {
+    constexpr size_t most = 16 << 10; // well within any processor's first cache
+    Utf8Count all{true, 0};
+    do {
+        std::string_view const part = leadingPart(bytes, most);
+        Utf8Count const count = countUtf8(part);
+        if (!count.valid) return {false, 0};
+        to = std::copy(part.begin(), part.end(), to);
+        all.chars += count.chars;
+        bytes.remove_prefix(part.size());
+    } while (!bytes.empty());
+    return all;
 }
 
 coChar *widenAscii(coChar *chars, std::string_view ascii) {

@@ -14,6 +14,10 @@ struct Utf8Count {
 // Whether the bytes are UTF-8, and how many code points they are.
 Utf8Count countUtf8(std::string_view bytes);
 
+// The same, and copies them to `to` meanwhile: a long text comes from memory once. What is copied of an invalid text is
+// undefined.
+Utf8Count copyUtf8(char *to, std::string_view bytes);
+
 // Writes the code points of valid UTF-8 to `chars`; returns the end of what it wrote.
 coChar *widenUtf8(coChar *chars, std::string_view valid);
 
