@@ -412,19 +412,29 @@ private:
     }
 
     bool enterUnknown(Bytes name, bool usual) {
-        co::Ref<coString> normal(tryMakeFieldName(name));
-        if (!normal) return false;
-        index.lines[index.count - 1].canonical = usual && equals(name, normal->view());
-        uint32_t const hash = set->hash(normal->view());
-        uint32_t const place = set->findUnknown(normal->view(), hash);
-        enter(place, place == noEntry ? normal.take() : nullptr, -1, hash);
+        bool const isSame = unknown.place != noEntry && name == unknown.name;
+        if (!isSame && !findUnknown(name)) return false;
+        index.lines[index.count - 1].canonical = usual && unknown.isNormal;
+        enter(unknown.place, nullptr, -1);
         return true;
     }
 
-    // The last line is one more of an entry, or the first one of a new entry.
-    void enter(uint32_t place, coString *name, int known, uint32_t hash = 0) {
+    // Finds or makes the entry of a name.
+    bool findUnknown(Bytes name) {
+        co::Ref<coString> normal(tryMakeFieldName(name));
+        if (!normal) return false;
+        uint32_t const hash = set->hash(normal->view());
+        unknown = {name, equals(name, normal->view()), set->findUnknown(normal->view(), hash)};
+        if (unknown.place != noEntry) return true;
+        unknown.place = static_cast<uint32_t>(set->used);
+        set->add(normal.take(), -1, hash);
+        return true;
+    }
+
+    // The last line is one more of an entry, or the first one of a known name's new entry.
+    void enter(uint32_t place, coString *name, int known) {
         auto const line = static_cast<uint32_t>(index.count - 1);
-        HeaderEntry &entry = place == noEntry ? set->add(name, known, hash) : set->entries[place];
+        HeaderEntry &entry = place == noEntry ? set->add(name, known) : set->entries[place];
         (entry.count == 0 ? entry.first : index.lines[entry.last].next) = line;
         entry.last = line;
         entry.count++;
@@ -440,9 +450,17 @@ private:
 
     uint32_t offset(char const *at) const { return static_cast<uint32_t>(at - text.begin()); }
 
+    // The name that was none of the known ones last: lines of one name mostly follow each other.
+    struct Unknown {
+        Bytes name;
+        bool isNormal = false;
+        uint32_t place = noEntry;
+    };
+
     Bytes const text;
     bool const untilEmptyLine;
     HeaderSet *const set;
+    Unknown unknown;
 };
 
 } // namespace
