@@ -2,8 +2,50 @@
 
 #include <algorithm>
 #include <quill/quill_elements.hpp>
+#include <quill/quill_family.hpp>
 
 namespace quill {
+
+// The pieces behind the first few. Nobody else has them while they grow.
+struct Pieces : coObj {
+    static coSort const sort;
+
+    int64_t capacity;
+
+    Piece *all() { return reinterpret_cast<Piece *>(this + 1); }
+    static int64_t sizeFor(int64_t capacity) {
+        return static_cast<int64_t>(sizeof(Pieces)) + capacity * static_cast<int64_t>(sizeof(Piece));
+    }
+};
+
+static void freeNothing(coObj *) {}
+static int64_t sizeOfPieces(coObj const *obj) { return Pieces::sizeFor(static_cast<Pieces const *>(obj)->capacity); }
+
+constinit coSort const Pieces::sort{
+    &co___sort_CO_SORT, &quill___module, "QUILL_PIECES", freeNothing, nullptr, nullptr, 0, sizeOfPieces};
+
+// With the pieces of an old one, which is given up; null for none.
+static Pieces *makePieces(int64_t capacity, Pieces *old) {
+    auto *pieces = static_cast<Pieces *>(co::allocateObject(Pieces::sizeFor(capacity), &Pieces::sort));
+    pieces->capacity = capacity;
+    if (!old) return pieces;
+    std::copy(old->all(), old->all() + old->capacity, pieces->all());
+    co::release(old);
+    return pieces;
+}
+
+co::Chars Elements::piece(int64_t index) const {
+    Piece const &piece = index < fewPieces ? few[index] : more->all()[index - fewPieces];
+    return {base() + piece.distance, piece.length};
+}
+
+Piece *Elements::placeOfNext() {
+    int64_t const index = pieceCount++;
+    if (index < fewPieces) return &few[index];
+    int64_t const capacity = more ? more->capacity : 0;
+    if (index - fewPieces == capacity) more = makePieces(capacity ? capacity * 2 : 4 * fewPieces, more);
+    return &more->all()[index - fewPieces];
+}
 
 co::Chars Elements::view(int64_t index) const {
     if (isPiece(index)) return piece(index);
@@ -27,6 +69,7 @@ coVector *Elements::vector() const {
 coVector **Elements::writable() {
     if (!strings) strings = vector();
     pieceCount = 0;
+    if (Pieces *old = std::exchange(more, nullptr)) co::release(old);
     adoptFirst(nullptr);
     return &strings;
 }
@@ -34,10 +77,10 @@ coVector **Elements::writable() {
 void Elements::clear() { coVectorClear(writable()); }
 
 void Elements::append(co::Chars text, bool standsInRoom) {
-    if (strings || pieceCount == mostPieces || !standsInRoom)
+    if (strings || !standsInRoom)
         co::appendTaken(writable(), co::header(co::makeString(text)));
     else
-        pieces[pieceCount++] = {static_cast<uint32_t>(text.data() - base()), static_cast<uint32_t>(text.size())};
+        *placeOfNext() = {static_cast<uint32_t>(text.data() - base()), static_cast<uint32_t>(text.size())};
 }
 
 int Elements::compare(Elements const &other) const {

@@ -1,7 +1,7 @@
 // The elements of a list header: texts.
 //
-// The first few of a header that was read are pieces of the text behind it; a string is made of one when somebody asks
-// for it. All others, and all of a list that was changed, are strings in a vector.
+// Those of a header that was read are pieces of the text behind it; a string is made of one when somebody asks for it.
+// Those of a list that was changed are strings in a vector.
 #pragma once
 
 #include <co/co_member.hpp>
@@ -9,9 +9,17 @@
 
 namespace quill {
 
+struct Pieces;
+
+// Where an element stands.
+struct Piece {
+    uint32_t distance; // from the list's member, in code points: the same in a copy
+    uint32_t length;
+};
+
 class Elements {
 public:
-    static constexpr uint64_t references = 0b11;
+    static constexpr uint64_t references = 0b111;
 
     int64_t count() const { return strings ? strings->length : pieceCount; }
     // The text of an element, and a string of it, owned by the caller. There must be such an element.
@@ -37,21 +45,19 @@ public:
     int compare(Elements const &other) const;
 
 private:
-    static constexpr int64_t mostPieces = 8;
-    struct Piece {
-        uint32_t distance; // from this member, in code points: the same in a copy
-        uint32_t length;
-    };
+    static constexpr int64_t fewPieces = 8;
 
     bool isPiece(int64_t index) const { return !strings && index >= 0 && index < pieceCount; }
     coChar const *base() const { return reinterpret_cast<coChar const *>(this); }
-    co::Chars piece(int64_t index) const { return {base() + pieces[index].distance, pieces[index].length}; }
+    co::Chars piece(int64_t index) const;
+    Piece *placeOfNext();
 
-    // These two come first: they are the references.
+    // These three come first: they are the references.
     coVector *strings; // null while the elements are pieces
     coObj *firstValue;
+    Pieces *more; // of many; those of a copy are the same
     int64_t pieceCount;
-    Piece pieces[mostPieces];
+    Piece few[fewPieces];
 };
 
 } // namespace quill

@@ -38,12 +38,15 @@ static co::Ref<coObj> tryReadFirst(Lines const &lines, ValueKind const *kind, in
     return isRead && (rest.empty() || rules::comma(rest) > 0) ? std::move(value) : co::Ref<coObj>();
 }
 
+constexpr int64_t usualLength = 1024;
+
 bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *kind) {
     coChar *room = hdr->lineLength > 0 ? co::lineBehind(hdr) : nullptr;
+    bool const readsFirst = kind && room && hdr->lineLength <= usualLength; // of a long line it would keep too much
     co::Ref<coObj> first;
     auto const take = [&](co::Chars text) {
         int64_t count = 0;
-        if (kind && room && hdr->elements.count() == 0) first = tryReadFirst(lines, kind, &count);
+        if (readsFirst && hdr->elements.count() == 0) first = tryReadFirst(lines, kind, &count);
         if (!first || hdr->elements.count() > 0) count = measure(element, text);
         if (count > 0) hdr->elements.append(upTo(text, count), room);
         return count;

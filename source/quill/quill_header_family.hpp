@@ -75,8 +75,8 @@ struct ListHeader : co::WithLine {
     void onElement() {} // is called when an element is put in
 };
 
-// Reads the lines into a new list, which has room for them where they are few: elements as they are written, and the
-// value of the first one where its kind is given. False where a line is anything else.
+// Reads the lines into a new list, which has room for them: elements as they are written, and the value of the first one
+// where its kind is given and the lines are short. False where a line is anything else.
 bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *first);
 
 template <class H> H *tryDecodeList(Lines &lines, Scanner element, ValueKind const *first = nullptr) {

@@ -609,12 +609,9 @@ void Lines::reserve(int64_t length) {
 }
 
 int64_t Lines::room() const {
-    constexpr int64_t few = 8;
-    constexpr int64_t most = 1024;
-    if (total > few) return 0;
     int64_t sum = 0;
-    for (uint32_t i = firstPlace; i != noLine && sum <= most; i = behind(i)) sum += length(i);
-    return sum <= most ? sum : 0;
+    for (uint32_t i = firstPlace; i != noLine; i = behind(i)) sum += length(i);
+    return sum <= co::longestLine ? sum : 0;
 }
 
 // The place behind a line, noLine for none.

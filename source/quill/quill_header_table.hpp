@@ -128,8 +128,8 @@ public:
     bool next(coChar *to, co::Chars *line);
     co::Chars last(coChar *to) const { return copy(lastPlace, to); } // there must be one
     co::Chars again(coChar *to) const { return copy(current, to); }  // what was the next line
-    // How many code points they hold at most: the last line, the one that was the next, and all, where they are few; 0
-    // where they are many.
+    // How many code points they hold at most: the last line, the one that was the next, and all; 0 where a slot can't
+    // point into as many.
     int64_t lastRoom() const { return length(lastPlace); }
     int64_t currentRoom() const { return length(current); }
     int64_t room() const;

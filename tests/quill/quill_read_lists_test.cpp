@@ -183,10 +183,11 @@ TEST_P(QuillReadList, ReadsWhatTheScannersRead) {
     EXPECT_GT(decoded, 2000);
 }
 
-// Few elements are pieces of the line, many are strings; the same is read of both, and of copies that outlive them.
+// Elements that were read are pieces of their lines, the first few of them kept apart from the others; those of a changed
+// list are strings. The same is read of all, and of copies that outlive them.
 TEST_P(QuillReadList, HoldsFewAndManyElements) {
     std::string const element = list.begins[0] + ";x=y";
-    for (size_t n : std::initializer_list<size_t>{1, 7, 8, 9, 20, 200}) {
+    for (size_t n : std::initializer_list<size_t>{1, 7, 8, 9, 20, 39, 40, 41, 71, 72, 73, 200}) {
         for (bool oneLine : {true, false}) {
             std::string joined = element;
             for (size_t i = 1; i < n; i++) joined += ", " + element;
@@ -207,6 +208,16 @@ TEST_P(QuillReadList, HoldsFewAndManyElements) {
                          "index >= 0 && index < coVectorLength( vector )");
         }
     }
+}
+
+TEST(QuillReadListVia, CopiesKeepWhatTheyShare) {
+    Texts lines;
+    for (int i = 0; i < 100; i++) lines.push_back("SIP/2.0/UDP h" + std::to_string(i));
+    auto hdr = own(quillHeaderViaTryDecode(rawHeader("Via", lines).get()));
+    auto const copy = own(quillHeaderViaCreateFrom(hdr.get()));
+    EXPECT_EQ(coObjCompare(generic(hdr.get()), generic(copy.get())), 0);
+    hdr.reset(nullptr);
+    EXPECT_EQ(linesOf(own(quillHeaderViaEncode(copy.get())).get()), lines);
 }
 
 // A value of the list is the caller's own: what changes in it, flags without copy on write included, the list doesn't see.
