@@ -7,6 +7,7 @@
 #include <co/co_family.hpp>
 #include <co/co_format.hpp>
 #include <co/co_memory.h>
+#include <co/co_simd.hpp>
 #include <co/co_string.hpp>
 #include <co/co_unicode.hpp>
 #include <co/co_vector.h>
@@ -69,9 +70,14 @@ struct coString *coStringCreate(void) {
 
 struct coString *coStringCreateFromCstr(char const *text, int64_t length) {
     std::string_view const bytes = cstr(text, length);
-    int64_t const count = co::widenAnyBytes(nullptr, bytes);
+    bool const ascii = co::simd::asciiRun(bytes) == bytes.size();
+    int64_t const count = ascii ? std::ssize(bytes) : co::widenAnyBytes(nullptr, bytes);
     coString *string = co::makeString(count);
-    string->length = co::widenAnyBytes(string->chars(), bytes);
+    string->length = count;
+    if (ascii)
+        co::widenAscii(string->chars(), bytes);
+    else
+        co::widenAnyBytes(string->chars(), bytes);
     return string;
 }
 
