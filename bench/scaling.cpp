@@ -10,6 +10,7 @@
 #include "heap.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -26,7 +27,8 @@ namespace {
 struct Limits {
     std::vector<int64_t> sizes;
     int64_t step;          // times the size,
-    double growth;         // less than this times the cost
+    double growth;         // less than this times the cost: of memory at each step, of time on the average of all
+    double steepest;       // of time at each step: where what is read grows out of a cache, one is steeper than others
     double constant;       // at any size against the smallest one
     double even;           // for each of many against one alone
     int64_t limitedSize;   // for the absolute limit; 0 for none
@@ -34,8 +36,8 @@ struct Limits {
     int repetitions;
 };
 
-Limits const full{{1000, 2000, 4000, 8000, 10000, 16000, 32000, 64000}, 2, 2.5, 1.5, 1.25, 10000, 100, 5};
-Limits const small{{250, 500, 1000, 2000}, 8, 20, 3, 3, 1000, 10000, 3};
+Limits const full{{1000, 2000, 4000, 8000, 10000, 16000, 32000, 64000}, 2, 2.5, 3.2, 1.5, 1.25, 10000, 100, 5};
+Limits const small{{250, 500, 1000, 2000}, 8, 20, 20, 3, 3, 1000, 10000, 3};
 constexpr int attempts = 10;           // of a measurement that breaks a rule
 constexpr double shortestRun = 100e3;  // ns; shorter works are repeated
 constexpr int64_t fewBytes = 16 << 10; // what does not depend on the size, at most
@@ -87,9 +89,18 @@ public:
     Measurement(Shape const &measured, Limits const &allowed) : shape(measured), limits(allowed) {
         if (shape.rule == Rule::even) add(1);
         for (int64_t n : limits.sizes) add(n);
-        for (int i = 1; i < attempts && !broken().empty(); i++) {
+        for (int i = 1; i < attempts && !brokenByTime().empty(); i++) {
             pause(1 << i);
             for (Point &point : points) retry(point);
+        }
+    }
+
+    // In a thread of its own, which has kept no blocks: those of small works would not be the heap's. When all times are
+    // measured: malloc is slower in a process that has had a second thread.
+    void measureMemory() {
+        for (Point &point : points) {
+            Work const work = shape.prepare(point.n);
+            std::thread([&] { point.memory = heap::use(work); }).join();
         }
     }
 
@@ -110,12 +121,7 @@ public:
     }
 
     // What rule is broken; empty where none is.
-    std::string broken() const {
-        if (worstTime() >= limit()) return "time";
-        if (worstMemory() >= limit()) return "memory";
-        if (shape.limited && limits.limitedSize && elementAt(limits.limitedSize) > limits.longestElement) return "slow";
-        return "";
-    }
+    std::string broken() const { return worstMemory() < limit() ? brokenByTime() : "memory"; }
     // Of a cost at a size: what falls to one element, where the size makes a difference.
     double share(double cost, int64_t n) const {
         return shape.rule == Rule::constant ? cost : cost / static_cast<double>(n);
@@ -123,6 +129,21 @@ public:
     double elementAt(int64_t n) const { return share(at(n).time, n); }
 
 private:
+    std::string brokenByTime() const {
+        if (worstTime() >= (shape.rule == Rule::linear ? limits.steepest : limit())) return "time";
+        if (shape.rule == Rule::linear && averageTime() >= limit()) return "time";
+        if (shape.limited && limits.limitedSize && elementAt(limits.limitedSize) > limits.longestElement) return "slow";
+        return "";
+    }
+
+    // The growth at a step, on the average of all.
+    double averageTime() const {
+        Point const &first = points.front();
+        Point const &last = points.back();
+        auto const times = static_cast<double>(last.n) / static_cast<double>(first.n);
+        return std::pow(last.time / first.time, std::log(limits.step) / std::log(times));
+    }
+
     double limit() const {
         switch (shape.rule) {
         case Rule::linear:
@@ -135,17 +156,10 @@ private:
         return 0;
     }
 
-    // In a thread of its own, which has kept no blocks: those of small works would not be the heap's.
-    static heap::Use memoryOf(Work const &work) {
-        heap::Use use{};
-        std::thread([&] { use = heap::use(work); }).join();
-        return use;
-    }
-
     void add(int64_t n) {
         Work const work = shape.prepare(n);
         work(); // first use fills what is kept
-        points.push_back({n, timeOf(work, limits.repetitions), memoryOf(work)});
+        points.push_back({n, timeOf(work, limits.repetitions), {}});
     }
     void retry(Point &point) const {
         point.time = std::min(point.time, timeOf(shape.prepare(point.n), limits.repetitions));
@@ -318,6 +332,7 @@ int main(int argc, char **argv) {
         std::vector<Shape> const shapes = options.bad ? scaling::badShapes() : scaling::allShapes();
         for (Shape const &shape : shapes)
             if (title(shape).find(options.only) != std::string::npos) all.emplace_back(shape, *options.limits);
+        for (Measurement &one : all) one.measureMemory();
         if (all.empty())
             std::fprintf(stderr, "scaling: no shape has \"%s\" in its name\n", options.only);
         else
