@@ -1,6 +1,5 @@
 // UTF-8, both ways. Contract: co_utf8.hpp.
 
-#include <algorithm>
 #include <co/co_simd.hpp>
 #include <co/co_utf8.hpp>
 
@@ -65,25 +64,24 @@ Utf8Count countUtf8(std::string_view bytes) {
     }
 }
 
-// At most `most` leading bytes, so that no character is cut in two.
-static std::string_view leadingPart(std::string_view bytes, size_t most) {
-    if (bytes.size() <= most) return bytes;
-    size_t size = most;
-    while (size > most - 3 && (static_cast<uint8_t>(bytes[size]) & 0xC0) == 0x80) size--;
+// A leading block, so that no character is cut in two.
+static std::string_view leadingBlock(std::string_view bytes) {
+    if (bytes.size() <= copyBlock) return bytes;
+    size_t size = copyBlock;
+    while (size > copyBlock - 3 && (static_cast<uint8_t>(bytes[size]) & 0xC0) == 0x80) size--;
     return bytes.substr(0, size);
 }
 
-Utf8Count copyUtf8(char *to, std::string_view bytes) {
-    constexpr size_t most = 16 << 10; // well within any processor's first cache
+Utf8Count copyLongUtf8(char *to, std::string_view bytes) {
     Utf8Count all{true, 0};
-    do {
-        std::string_view const part = leadingPart(bytes, most);
-        Utf8Count const count = countUtf8(part);
-        if (!count.valid) return {false, 0};
-        to = std::copy(part.begin(), part.end(), to);
+    while (!bytes.empty()) {
+        std::string_view const block = leadingBlock(bytes);
+        Utf8Count const count = copyUtf8(to, block);
+        if (!count.valid) return count;
         all.chars += count.chars;
-        bytes.remove_prefix(part.size());
-    } while (!bytes.empty());
+        to += block.size();
+        bytes.remove_prefix(block.size());
+    }
     return all;
 }
 
