@@ -90,16 +90,8 @@ private:
     uint32_t length;
 };
 
-// An object that keeps the line it was read from, behind its members; an empty one where it was not read.
-struct WithLine : coObj {
-    int64_t lineLength;
-};
-
 inline constexpr int64_t longestLine = INT32_MAX; // that a slot can point into
 
-template <class T> constexpr int64_t sizeWithLine(int64_t lineLength) {
-    return static_cast<int64_t>(sizeof(T)) + lineLength * static_cast<int64_t>(sizeof(coChar));
-}
 template <class T> coChar *lineOf(T const *obj) { return reinterpret_cast<coChar *>(const_cast<T *>(obj) + 1); }
 
 // A signed 64-bit integer; -1 for absent.
@@ -131,14 +123,6 @@ public:
 private:
     bool flag;
 };
-
-// How a sort tells the size of its objects where they are not all of one size.
-template <class T> constexpr auto sizeFunction() -> int64_t (*)(coObj const *) {
-    if constexpr (std::is_base_of_v<WithLine, T>)
-        return [](coObj const *obj) { return sizeWithLine<T>(static_cast<T const *>(obj)->lineLength); };
-    else
-        return nullptr;
-}
 
 // What is common to the types, over a bit for each word of an object that holds a reference.
 

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <co/co_block.hpp>
 #include <co/co_object.h>
+#include <co/co_types.h>
 #include <utility>
 
 struct coObj {
@@ -18,15 +19,16 @@ struct coSort : coObj {
     void (*freeFunc)(coObj *);
     int (*compareFunc)(coObj const *, coObj const *);
     coString *(*toStringFunc)(coObj const *);
-    int64_t size;                       // of an object's memory, where it is known here, else 0
+    int64_t size;                       // of an object's memory, without its line; 0 where it is not known here
     int64_t (*sizeFunc)(coObj const *); // where each object has its own; 0 when that is not known any more
-    void const *reserved[3];
+    bool keepsLine;                     // objects are WithLine
+    void const *reserved[2];
 
     constexpr coSort(coSort const *sortOfSorts, coModule const *owner, char const *sortName, void (*free)(coObj *),
                      int (*compare)(coObj const *, coObj const *), coString *(*toString)(coObj const *),
-                     int64_t objectSize = 0, int64_t (*sizeOfObject)(coObj const *) = nullptr)
+                     int64_t objectSize = 0, int64_t (*sizeOfObject)(coObj const *) = nullptr, bool withLine = false)
         : coObj{sortOfSorts, 1}, module(owner), name(sortName), freeFunc(free), compareFunc(compare),
-          toStringFunc(toString), size(objectSize), sizeFunc(sizeOfObject), reserved{} {}
+          toStringFunc(toString), size(objectSize), sizeFunc(sizeOfObject), keepsLine(withLine), reserved{} {}
 };
 
 struct coModuleRecord {
@@ -112,9 +114,16 @@ template <class T> T *retained(T const *obj) {
     return const_cast<T *>(obj);
 }
 
+// An object that keeps the line it was read from, behind its members; an empty one where it was not read.
+struct WithLine : coObj {
+    int64_t lineLength;
+};
+
 // The size of an object's memory; 0 where it is not known.
 inline int64_t sizeOf(coObj const *obj) {
     coSort const *sort = obj->itsSort;
+    if (sort->keepsLine)
+        return sort->size + static_cast<WithLine const *>(obj)->lineLength * static_cast<int64_t>(sizeof(coChar));
     return sort->sizeFunc ? sort->sizeFunc(obj) : sort->size;
 }
 

@@ -3,19 +3,16 @@
 
 #include <co/co_family.hpp>
 #include <quill/quill_internal.h>
+#include <type_traits>
 
 // The sort record of `struct quill<Type>`, named QUILL_<SORT>, its free function and the standard family. `compare` and
 // `toString` are the sort's functions, or nullptr for the base library's default.
 #define QUILL_DEFINE_SORT(Type, SORT, compare, toString)                                                               \
     void quill___##Type##FreeFunc(struct coObj *obj) { co::freeMembers<struct quill##Type>(obj); }                     \
-    constinit struct coSort const quill___sort_QUILL_##SORT{&co___sort_CO_SORT,                                        \
-                                                            &quill___module,                                           \
-                                                            "QUILL_" #SORT,                                            \
-                                                            quill___##Type##FreeFunc,                                  \
-                                                            compare,                                                   \
-                                                            toString,                                                  \
-                                                            sizeof(struct quill##Type),                                \
-                                                            co::sizeFunction<struct quill##Type>()};                   \
+    constinit struct coSort const quill___sort_QUILL_##SORT{                                                           \
+        &co___sort_CO_SORT,         &quill___module, "QUILL_" #SORT,                                                   \
+        quill___##Type##FreeFunc,   compare,         toString,                                                         \
+        sizeof(struct quill##Type), nullptr,         std::is_base_of_v<co::WithLine, struct quill##Type>};             \
     CO_DEFINE_FAMILY(quill##Type, quill___sort_QUILL_##SORT)
 
 // A new object that shares the members of another.
