@@ -135,9 +135,10 @@ static void grow(coBuffer *buffer, int64_t capacity) {
     buffer->capacity = capacity;
 }
 
-// Room for half as much again, so that an addition is amortised constant; none to spare where nothing is added.
+// Room for as much again, so that an addition is amortised constant and a message that comes in pieces moves seldom; none to
+// spare where nothing is added.
 static int64_t capacityFor(int64_t length, int64_t more) {
-    return more == 0 ? length : std::max(length + more, length + length / 2 + 32);
+    return more == 0 ? length : std::max(length + more, 2 * length + 256);
 }
 
 // Whether so many bytes can be put behind the buffer's end as it is.
