@@ -133,6 +133,7 @@ using StepMask = uint64_t;
 }
 inline size_t first(StepMask mask) { return static_cast<size_t>(std::countr_zero(mask)); }
 inline StepMask withoutFirst(StepMask mask) { return mask & (mask - 1); }
+inline StepMask behind(StepMask mask, size_t places) { return mask >> places; } // from a place in the step on
 
 inline Block equalChars(Block fourChars, coChar wanted) {
     return _mm_cmpeq_epi32(fourChars, _mm_set1_epi32(static_cast<int>(wanted)));
@@ -186,6 +187,7 @@ using StepMask = Mask;
 
 inline StepMask equalInStep(char const *at, char wanted) { return highBits(equal(load(at), wanted)); }
 inline StepMask withoutFirst(StepMask mask) { return mask & ~(StepMask{0xF} << std::countr_zero(mask)); }
+inline StepMask behind(StepMask mask, size_t places) { return mask >> (4 * places); }
 
 inline Block equalChars(Block fourChars, coChar wanted) {
     return vreinterpretq_u8_u32(vceqq_u32(vreinterpretq_u32_u8(fourChars), vdupq_n_u32(wanted)));
@@ -243,18 +245,21 @@ public:
     }
 
 private:
+    // The last step overlaps the one before it.
     [[gnu::always_inline]] StepMask searchStep() {
         char const *const step = text.data() + searched;
         size_t const left = text.size() - searched;
         searched += stepSize;
-        return left >= stepSize ? equalInStep(step, wanted) : equalInLast({step, left}, wanted);
+        if (left >= stepSize) return equalInStep(step, wanted);
+        if (text.size() < stepSize) return equalInShort(text, wanted);
+        return behind(equalInStep(step + left - stepSize, wanted), stepSize - left);
     }
 
-    [[gnu::noinline]] static StepMask equalInLast(std::string_view rest, char wanted) {
-        char last[stepSize];
-        std::memset(last, ~wanted, sizeof last);
-        std::memcpy(last, rest.data(), rest.size());
-        return equalInStep(last, wanted);
+    [[gnu::noinline]] static StepMask equalInShort(std::string_view text, char wanted) {
+        char step[stepSize];
+        std::memset(step, ~wanted, sizeof step);
+        std::memcpy(step, text.data(), text.size());
+        return equalInStep(step, wanted);
     }
 
     std::string_view const text;
