@@ -35,10 +35,8 @@ def panel_of(shape, work, rule):
         return None
     if work == "decode":
         return "decode a message", shape
-    if work in ("decode, type", "decode, read", "find"):
-        return "read what was decoded", f"{shape}: {work}"
-    if work in ("write, encode", "encode"):
-        return "write and encode", f"{shape}: {work}"
+    if work.startswith("decode,") and not shape.startswith("header deletions"):
+        return "decode, read the header, encode", shape
     return "change and read through the interface", f"{shape}: {work}"
 
 

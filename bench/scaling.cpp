@@ -10,7 +10,6 @@
 #include "heap.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -27,8 +26,7 @@ namespace {
 struct Limits {
     std::vector<int64_t> sizes;
     int64_t step;          // times the size,
-    double growth;         // less than this times the cost: of memory at each step, of time on the average of all
-    double steepest;       // of time at each step: where what is read grows out of a cache, one is steeper than others
+    double growth;         // less than this times the cost
     double constant;       // at any size against the smallest one
     double even;           // for each of many against one alone
     int64_t limitedSize;   // for the absolute limit; 0 for none
@@ -36,8 +34,8 @@ struct Limits {
     int repetitions;
 };
 
-Limits const full{{1000, 2000, 4000, 8000, 10000, 16000, 32000, 64000}, 2, 2.5, 3.2, 1.5, 1.25, 10000, 100, 5};
-Limits const small{{250, 500, 1000, 2000}, 8, 20, 20, 3, 3, 1000, 10000, 3};
+Limits const full{{1000, 2000, 4000, 8000, 10000, 16000, 32000, 64000}, 2, 2.5, 1.5, 1.25, 10000, 100, 5};
+Limits const small{{250, 500, 1000, 2000}, 8, 20, 3, 3, 1000, 10000, 3};
 constexpr int attempts = 10;           // of a measurement that breaks a rule
 constexpr double shortestRun = 100e3;  // ns; shorter works are repeated
 constexpr int64_t fewBytes = 16 << 10; // what does not depend on the size, at most
@@ -130,18 +128,9 @@ public:
 
 private:
     std::string brokenByTime() const {
-        if (worstTime() >= (shape.rule == Rule::linear ? limits.steepest : limit())) return "time";
-        if (shape.rule == Rule::linear && averageTime() >= limit()) return "time";
+        if (worstTime() >= limit()) return "time";
         if (shape.limited && limits.limitedSize && elementAt(limits.limitedSize) > limits.longestElement) return "slow";
         return "";
-    }
-
-    // The growth at a step, on the average of all.
-    double averageTime() const {
-        Point const &first = points.front();
-        Point const &last = points.back();
-        auto const times = static_cast<double>(last.n) / static_cast<double>(first.n);
-        return std::pow(last.time / first.time, std::log(limits.step) / std::log(times));
     }
 
     double limit() const {

@@ -66,31 +66,20 @@ Work decodeOf(std::string const &bytes) {
     return [buffer = std::shared_ptr<coBuffer>(bufferOf(bytes))] { decoded(buffer.get()); };
 }
 
-// Decodes, does something with the message.
+// Decodes, does something to the message, encodes.
 template <class Use> Work useOf(std::string const &bytes, Use const &use) {
     return [buffer = std::shared_ptr<coBuffer>(bufferOf(bytes)), use] {
         quillMessage *message = decoded(buffer.get()).release();
         use(&message);
+        encodedLength(message);
         quillMessageRelease(message);
     };
 }
 
-Work encodeOf(std::string const &bytes) {
-    return [message = std::shared_ptr(decoded(bufferOf(bytes).get()))] { encodedLength(message.get()); };
-}
-
-// Writes what the type of a header made of it into the message, and encodes that.
-Work rewriteOf(quillTypedHeader const *type, std::string const &bytes) {
-    auto const message = std::shared_ptr(decoded(bufferOf(bytes).get()));
-    auto const header =
-        std::shared_ptr(held(given(type->tryDecodeFromMessage(message.get()), type->name), coObjRelease));
-    return [=] {
-        quillMessageRetain(message.get());
-        quillMessage *mine = message.get();
-        type->encodeToMessage(header.get(), &mine);
-        encodedLength(mine);
-        quillMessageRelease(mine);
-    };
+// Reads a header as what its type makes of it, and writes that.
+void rewrite(quillTypedHeader const *type, quillMessage **message) {
+    auto const header = held(given(type->tryDecodeFromMessage(*message), type->name), coObjRelease);
+    type->encodeToMessage(header.get(), message);
 }
 
 template <class H, class Element> struct List {
@@ -180,54 +169,43 @@ using Shapes = std::vector<Shape>;
 
 void addTyped(Shapes &all) {
     for (Typed const &row : typedShapes) {
-        auto const text = [row](int64_t n) { return request(row.lines(n)); };
-        auto const typeOf = [row] { return quillTypedHeaderOf(stringOf(row.header).get()); };
-        all.push_back({row.name, "decode", Rule::linear, true, [=](int64_t n) { return decodeOf(text(n)); }});
-        all.push_back({row.name, "decode, type", Rule::linear, row.limited, [=](int64_t n) {
-                           return useOf(text(n), [type = typeOf()](quillMessage **msg) {
-                               held(given(type->tryDecodeFromMessage(*msg), type->name), coObjRelease);
-                           });
+        all.push_back(
+            {row.name, "decode", Rule::linear, true, [row](int64_t n) { return decodeOf(request(row.lines(n))); }});
+        all.push_back({row.name, "decode, type, encode", Rule::linear, row.limited, [row](int64_t n) {
+                           auto const *type = quillTypedHeaderOf(stringOf(row.header).get());
+                           return useOf(request(row.lines(n)), [type](quillMessage **msg) { rewrite(type, msg); });
                        }});
-        all.push_back({row.name, "write, encode", Rule::linear, row.limited,
-                       [=](int64_t n) { return rewriteOf(typeOf(), text(n)); }});
     }
 }
 
 void addUntyped(Shapes &all) {
     auto const lineOfOneName = [](int64_t i) { return "X-Line: value " + number(i) + "\r\n"; };
-    auto const linesOfOneName = [=](int64_t n) { return request(joined(n, lineOfOneName)); };
-    all.push_back(
-        {"lines of one name", "decode", Rule::linear, true, [=](int64_t n) { return decodeOf(linesOfOneName(n)); }});
-    all.push_back({"lines of one name", "decode, read", Rule::linear, true, [=](int64_t n) {
-                       return useOf(linesOfOneName(n), [](quillMessage **msg) {
+    all.push_back({"lines of one name", "decode", Rule::linear, true,
+                   [=](int64_t n) { return decodeOf(request(joined(n, lineOfOneName))); }});
+    all.push_back({"lines of one name", "decode, read, encode", Rule::linear, true, [=](int64_t n) {
+                       return useOf(request(joined(n, lineOfOneName)), [](quillMessage **msg) {
                            auto const header = held(quillMessageHeaderCstr(*msg, "x-line", -1), lines.release);
                            lines.readAll(header.get());
                        });
                    }});
-    all.push_back(
-        {"lines of one name", "encode", Rule::linear, true, [=](int64_t n) { return encodeOf(linesOfOneName(n)); }});
     for (Names const &names : manyNames) {
-        auto const text = [names](int64_t n) {
-            return request(joined(n, [names](int64_t i) { return names.name(i) + ": a\r\n"; }));
-        };
+        auto const line = [names](int64_t i) { return names.name(i) + ": a\r\n"; };
         bool const plain = !*names.suffix; // the others are long
-        auto const name = std::string("names") + names.suffix;
-        all.push_back({name, "decode", Rule::linear, plain, [=](int64_t n) { return decodeOf(text(n)); }});
-        all.push_back({name, "find", Rule::linear, plain, [=](int64_t n) {
-                           return [message = std::shared_ptr(decoded(bufferOf(text(n)).get())),
-                                   texts = textsOf(names, n)] {
-                               for (std::string const &wanted : texts)
-                                   if (!quillMessageHasHeaderCstr(message.get(), wanted.c_str(), -1))
-                                       given<int>(nullptr, "a name");
-                           };
-                       }});
-        all.push_back({name, "encode", Rule::linear, plain, [=](int64_t n) { return encodeOf(text(n)); }});
+        all.push_back({std::string("names") + names.suffix, "decode", Rule::linear, plain,
+                       [=](int64_t n) { return decodeOf(request(joined(n, line))); }});
+        all.push_back(
+            {std::string("names") + names.suffix, "decode, find, encode", Rule::linear, plain, [=](int64_t n) {
+                 return useOf(request(joined(n, line)), [texts = textsOf(names, n)](quillMessage **msg) {
+                     for (std::string const &name : texts)
+                         if (!quillMessageHasHeaderCstr(*msg, name.c_str(), -1)) given<int>(nullptr, "a name");
+                 });
+             }});
     }
     auto const iri = [](int64_t n) { return request("", "sip:bjorn@fjord.example.com" + joined(n, param)); };
     all.push_back(
         {"parameters of the request IRI", "decode", Rule::linear, true, [=](int64_t n) { return decodeOf(iri(n)); }});
-    all.push_back(
-        {"parameters of the request IRI", "encode", Rule::linear, true, [=](int64_t n) { return encodeOf(iri(n)); }});
+    all.push_back({"parameters of the request IRI", "decode, encode", Rule::linear, true,
+                   [=](int64_t n) { return useOf(iri(n), [](quillMessage **) {}); }});
 }
 
 // The header and its elements as values: an object and its strings for each. A header of a short line has read its first
@@ -274,10 +252,7 @@ void addDeletions(Shapes &all) {
                                auto const bytes = held(quillMessageEncode(message.get()), coBufferRelease);
                                return useOf({reinterpret_cast<char const *>(coBufferBacking(bytes.get())),
                                              static_cast<size_t>(coBufferLength(bytes.get()))},
-                                            [delAll](quillMessage **msg) {
-                                                delAll(msg);
-                                                encodedLength(*msg);
-                                            });
+                                            delAll);
                            }
                            return Work([=] {
                                quillMessageRetain(message.get());
