@@ -138,7 +138,7 @@ static void grow(coBuffer *buffer, int64_t capacity) {
 // Room for as much again, so that an addition is amortised constant and a message that comes in pieces moves seldom; none to
 // spare where nothing is added.
 static int64_t capacityFor(int64_t length, int64_t more) {
-    return more == 0 ? length : std::max(length + more, 2 * length + 256);
+    return more == 0 ? length : std::max(length + more, 2 * length + 32);
 }
 
 // Whether so many bytes can be put behind the buffer's end as it is.

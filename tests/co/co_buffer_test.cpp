@@ -244,7 +244,7 @@ TEST(Buffer, QueueDoesNotGrowWithWhatHasPassed) {
         coBufferDelLeading(b.address(), 10 - (i < 10));
     }
     EXPECT_EQ(coBufferLength(b.get()), 10);
-    EXPECT_LT(b->capacity, 500);
+    EXPECT_LT(b->capacity, 200);
 }
 
 TEST(Buffer, BrokenPreconditionsAbort) {
