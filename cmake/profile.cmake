@@ -43,7 +43,8 @@ function(quill_use_counts)
 
   # What no sample reaches is compiled as if there were no profile; a unit without code has none. Hot is what makes 99.9 %
   # of the counts: by default, 99 %, parts of a proxy's hop are kept small.
-  set(options -fprofile-use --param=hot-bb-count-ws-permille=999 -fprofile-partial-training -fprofile-correction -Wno-missing-profile -flto=auto)
+  set(options -fprofile-use -fprofile-partial-training -fprofile-correction --param=hot-bb-count-ws-permille=999
+              -Wno-missing-profile -flto=auto)
   target_compile_options(quill_objects PRIVATE ${options} -ffat-lto-objects)
   target_link_options(quill_shared PRIVATE -O3 ${options} -flto-partition=one)
 

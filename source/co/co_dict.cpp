@@ -140,8 +140,8 @@ void coDictSetStringKey(struct coDict **dict, struct coString *key, struct coObj
     CO_ASSERT_REFERENCE(dict);
     CO_ASSERT_GIVEN(key);
     CO_ASSERT_GIVEN(value);
-    co::setTaken(dict, co::retained(key),
-                 co::retained(value)); // retained first: a dictionary put into itself is copied
+    // They are retained first: a dictionary put into itself is copied.
+    co::setTaken(dict, co::retained(key), co::retained(value));
 }
 
 void coDictDelStringKey(struct coDict **dict, struct coString const *key) {

@@ -18,11 +18,10 @@ struct Pieces : coObj {
     }
 };
 
-static void freeNothing(coObj *) {}
 static int64_t sizeOfPieces(coObj const *obj) { return Pieces::sizeFor(static_cast<Pieces const *>(obj)->capacity); }
 
-constinit coSort const Pieces::sort{
-    &co___sort_CO_SORT, &quill___module, "QUILL_PIECES", freeNothing, nullptr, nullptr, 0, sizeOfPieces};
+constinit coSort const Pieces::sort{&co___sort_CO_SORT, &quill___module, "QUILL_PIECES", nullptr, nullptr, nullptr, 0,
+                                    sizeOfPieces};
 
 // With the pieces of an old one, which is given up; null for none.
 static Pieces *makePieces(int64_t capacity, Pieces *old) {

@@ -38,11 +38,10 @@ static co::Ref<coObj> tryReadFirst(Lines const &lines, ValueKind const *kind, in
     return isRead && (rest.empty() || rules::comma(rest) > 0) ? std::move(value) : co::Ref<coObj>();
 }
 
-constexpr int64_t usualLength = 1024;
-
 bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *kind) {
     coChar *room = hdr->lineLength > 0 ? co::lineBehind(hdr) : nullptr;
-    bool const readsFirst = kind && room && hdr->lineLength <= usualLength; // of a long line it would keep too much
+    constexpr int64_t longest = 1024; // the value keeps the first line, too
+    bool const readsFirst = kind && room && hdr->lineLength <= longest;
     co::Ref<coObj> first;
     auto const take = [&](co::Chars text) {
         int64_t count = 0;

@@ -18,8 +18,6 @@ namespace quill {
 
 using Bytes = std::string_view;
 
-static void freeNothing(coObj *) {}
-
 static int64_t sizeOfWireText(int64_t lineCount, int64_t byteCount) {
     return static_cast<int64_t>(sizeof(WireText)) + lineCount * static_cast<int64_t>(sizeof(WireLine)) + byteCount;
 }
@@ -30,7 +28,7 @@ static int64_t sizeOfWireText(coObj const *obj) {
 }
 
 constinit coSort const WireText::sort{
-    &co___sort_CO_SORT, &quill___module, "QUILL_WIRE_TEXT", freeNothing, nullptr, nullptr, 0, sizeOfWireText};
+    &co___sort_CO_SORT, &quill___module, "QUILL_WIRE_TEXT", nullptr, nullptr, nullptr, 0, sizeOfWireText};
 
 namespace {
 

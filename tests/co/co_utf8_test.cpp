@@ -205,7 +205,7 @@ TEST(Utf8, AgreesWithIconvOnRandomTexts) {
 
 // Long texts are copied in blocks, which must not cut a character: what lies about their ends is whole, cut or wrong.
 TEST(Utf8, CopiesLongTexts) {
-    constexpr size_t block = 16 << 10;
+    constexpr size_t block = co::copyBlock;
     for (std::string_view piece : {"a", "é", "€", "\U0001F600", "\xC3", "\xE2\x82", "\xF0\x9F\x98", "\x80",
                                    "\x80\x80\x80", "\x80\x80\x80\x80", "\xF0\x9F\x98\x80\x80", "\xED\xA0\x80"})
         for (size_t before = block - 8; before < block + 2; before++)

@@ -94,7 +94,8 @@ int main(int count, char **paths) {
             quillMessageRelease(msg);
         }
     }
-    for (int round = 0; round < rounds / 4; round++) passMany(messageOfMany());
+    std::string const many = messageOfMany();
+    for (int round = 0; round < rounds / 4; round++) passMany(many);
     proxyRelease(&proxy);
     coModuleUnload(quillModule());
     return 0;
