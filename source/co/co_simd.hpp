@@ -290,10 +290,15 @@ inline size_t asciiRun(std::string_view text) {
     return at + firstPlace(text.size() - at, [&](size_t i) { return highBits(load(text.data() + at + i)); });
 }
 
+// The last step overlaps the one before it.
 inline size_t asciiRun(std::u32string_view text) {
+    auto const isAsciiAt = [&](size_t at) {
+        return isAscii(either(load(text.data() + at), load(text.data() + at + 4)));
+    };
     size_t at = 0;
-    while (at + wideSize <= text.size() && isAscii(either(load(text.data() + at), load(text.data() + at + 4))))
-        at += wideSize;
+    while (at + wideSize <= text.size() && isAsciiAt(at)) at += wideSize;
+    bool const isLast = at > 0 && text.size() - at < wideSize;
+    if (isLast && isAsciiAt(text.size() - wideSize)) return text.size();
     return at + scalar::asciiRun(text.substr(at));
 }
 
@@ -304,14 +309,19 @@ inline void widen(coChar *chars, std::string_view ascii) {
     widenOnce(chars + last, ascii.data() + last);
 }
 
+// The last step overlaps the one before it.
 inline size_t narrow(uint8_t *bytes, std::u32string_view text) {
-    size_t at = 0;
-    for (; at + wideSize <= text.size(); at += wideSize) {
+    auto const narrowAt = [&](size_t at) {
         Block const low = load(text.data() + at);
         Block const high = load(text.data() + at + 4);
-        if (!isAscii(either(low, high))) break;
-        narrowOnce(bytes + at, low, high);
-    }
+        bool const all = isAscii(either(low, high));
+        if (all) narrowOnce(bytes + at, low, high);
+        return all;
+    };
+    size_t at = 0;
+    while (at + wideSize <= text.size() && narrowAt(at)) at += wideSize;
+    bool const isLast = at > 0 && text.size() - at < wideSize;
+    if (isLast && narrowAt(text.size() - wideSize)) return text.size();
     return at + scalar::narrow(bytes + at, text.substr(at));
 }
 
