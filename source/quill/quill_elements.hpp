@@ -21,6 +21,7 @@ class Elements {
 public:
     static constexpr uint64_t references = 0b111;
 
+    bool arePieces() const { return pieceCount > 0; }
     int64_t count() const { return strings ? strings->length : pieceCount; }
     // The text of an element, and a string of it, owned by the caller. There must be such an element.
     co::Chars view(int64_t index) const;

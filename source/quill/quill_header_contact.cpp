@@ -56,7 +56,7 @@ void quillHeaderContactSetStarForm(struct quillHeaderContact **hdr, bool starFor
 struct quillMessageHeader *quillHeaderContactEncode(struct quillHeaderContact const *hdr) {
     CO_ASSERT_GIVEN(hdr);
     if (hdr->starForm.get()) return quill::makeHeaderOfLine(quill::known::Contact, co::makeString(U"*"));
-    return quill::makeHeaderOfLines(quill::known::Contact, hdr->elements.vector());
+    return quill::makeHeaderOf(quill::known::Contact, hdr);
 }
 
 // A star is no list: what decodes as one need not be looked at for it.

@@ -14,18 +14,24 @@ struct quillMessageHeader *makeHeaderOfLine(int known, coString *line) {
     return header;
 }
 
-struct quillMessageHeader *makeHeaderOfLines(int known, coVector *texts) {
-    co::Ref<coVector> const taken(texts);
+// What was read holds no line end.
+struct quillMessageHeader *makeHeaderOf(int known, ListHeader const *list) {
     struct quillMessageHeader *header = makeHeader(known);
-    quillMessageHeaderSetLinesVector(&header, taken.get());
+    if (list->elements.arePieces()) {
+        header->lines.set(const_cast<ListHeader *>(list), &list->elements);
+        return header;
+    }
+    co::Ref<coVector> const lines(list->elements.vector());
+    quillMessageHeaderSetLinesVector(&header, lines.get());
     return header;
 }
 
 coString *textOfLines(struct quillMessageHeader const *header) {
-    coVector const *lines = header->lines.get();
-    if (lines->length == 0) return coStringCreate();
-    if (lines->length == 1) return co::retained(co::stringAt(lines, 0));
-    return coVectorToString(lines);
+    HeaderLines const &lines = header->lines;
+    if (lines.length() == 0) return coStringCreate();
+    if (lines.length() == 1) return lines.string(0);
+    co::Ref<coVector> const all(lines.vector());
+    return coVectorToString(all.get());
 }
 
 // The value that the line which was read last begins with, when that is all of the first element; null otherwise.

@@ -97,8 +97,8 @@ template <class H> H *tryDecodeList(Lines &lines, Scanner element, Normalizer no
     return readElements(lines, quill___SkipComma, take) ? hdr.take() : nullptr;
 }
 
-// A raw header with a line for each text, the vector of which is taken over.
-struct quillMessageHeader *makeHeaderOfLines(int known, coVector *texts);
+// A raw header with a line for each element.
+struct quillMessageHeader *makeHeaderOf(int known, ListHeader const *list);
 
 template <class H> void clearList(H **hdr) { co::writable(hdr)->elements.clear(); }
 
@@ -311,7 +311,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
 #define QUILL_DEFINE_LIST_ENCODE(Type)                                                                                 \
     struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        return quill::makeHeaderOfLines(quill::known::Type, hdr->elements.vector());                                   \
+        return quill::makeHeaderOf(quill::known::Type, hdr);                                                           \
     }
 
 #define QUILL_DEFINE_LIST_CODEC(Type, skip)                                                                            \

@@ -524,7 +524,7 @@ static struct quillMessageHeader *makeHeader(HeaderSet const *set, HeaderEntry c
     if (entry.header) return co::retained(entry.header);
     struct quillMessageHeader *header = makeMessageHeader(entry.name);
     for (uint32_t i = entry.first; i != noLine; i = set->text->lines()[i].next)
-        co::appendTaken(header->lines.address(), co::header(makeLine(set->text, set->text->lines()[i])));
+        co::appendTaken(header->lines.writable(), co::header(makeLine(set->text, set->text->lines()[i])));
     return header;
 }
 
@@ -554,23 +554,23 @@ coVector *HeaderTable::vector() const {
     return vector;
 }
 
-Lines::Lines(HeaderSet const *set, HeaderEntry const *entry) : capacity(usualLength) {
+Lines::Lines(HeaderSet const *headers, HeaderEntry const *entry) : capacity(usualLength) {
     if (!entry) return;
     if (entry->header) {
-        useStrings(entry->header->lines.get());
+        use(entry->header->lines);
         return;
     }
-    text = set->text;
+    text = headers->text;
     place = firstPlace = entry->first;
     lastPlace = entry->last;
     total = entry->count;
 }
 
-Lines::Lines(struct quillMessageHeader const *header) : capacity(usualLength) { useStrings(header->lines.get()); }
+Lines::Lines(struct quillMessageHeader const *header) : capacity(usualLength) { use(header->lines); }
 
-void Lines::useStrings(coVector const *lines) {
-    strings = lines;
-    total = lines->length;
+void Lines::use(HeaderLines const &lines) {
+    set = &lines;
+    total = lines.length();
     if (total == 0) return;
     place = firstPlace = 0;
     lastPlace = static_cast<uint32_t>(total - 1);
@@ -578,13 +578,11 @@ void Lines::useStrings(coVector const *lines) {
 
 Lines::~Lines() { coMemFree(heap); }
 
-int64_t Lines::length(uint32_t index) const {
-    return strings ? co::stringAt(strings, index)->length : text->lines()[index].length;
-}
+int64_t Lines::length(uint32_t index) const { return set ? co::length(set->view(index)) : text->lines()[index].length; }
 
 co::Chars Lines::copy(uint32_t index, coChar *to) const {
-    if (strings) {
-        co::Chars const line = co::stringAt(strings, index)->view();
+    if (set) {
+        co::Chars const line = set->view(index);
         std::copy(line.begin(), line.end(), to);
         return {to, line.size()};
     }
@@ -595,7 +593,7 @@ co::Chars Lines::copy(uint32_t index, coChar *to) const {
 }
 
 co::Chars Lines::view(uint32_t index) {
-    if (strings) return co::stringAt(strings, index)->view();
+    if (set) return set->view(index);
     if (length(index) > capacity) reserve(length(index));
     return copy(index, heap ? heap : local);
 }
@@ -679,8 +677,8 @@ public:
 
     void write(HeaderEntry const &entry) {
         if (entry.header) {
-            coVector const *lines = entry.header->lines.get();
-            for (int64_t i = 0; i < lines->length; i++) write(entry, co::stringAt(lines, i)->view());
+            HeaderLines const &lines = entry.header->lines;
+            for (int64_t i = 0; i < lines.length(); i++) write(entry, lines.view(i));
             return;
         }
         for (uint32_t i = entry.first; i != noLine; i = text->lines()[i].next) write(entry, text->lines()[i]);
@@ -788,8 +786,8 @@ int64_t HeaderTable::encodedLength() const {
     int64_t bytes = fieldNameRoom + (set->text ? set->text->encodedLength : 0);
     for (int64_t i = 0; i < set->used; i++) {
         struct quillMessageHeader const *header = set->entries[i].header;
-        for (int64_t k = 0; header && k < header->lines->length; k++)
-            bytes += header->name->length + co::utf8Length(co::stringAt(header->lines.get(), k)->view()) + 4;
+        for (int64_t k = 0; header && k < header->lines.length(); k++)
+            bytes += header->name->length + co::utf8Length(header->lines.view(k)) + 4;
     }
     return bytes;
 }

@@ -56,7 +56,8 @@ struct WireText : coObj {
     std::string_view valueOf(WireLine const &line) const { return {bytes() + line.value, line.length}; }
 };
 
-struct HeaderSet; // what copies of a table share until one of them changes
+class HeaderLines; // of a raw header
+struct HeaderSet;  // what copies of a table share until one of them changes
 
 // What stands under one name.
 struct HeaderEntry {
@@ -138,7 +139,7 @@ private:
     static constexpr int64_t usualLength = 256;
 
     Lines(HeaderSet const *set, HeaderEntry const *entry);
-    void useStrings(coVector const *lines);
+    void use(HeaderLines const &lines);
     bool step(); // to the next line
     uint32_t behind(uint32_t index) const;
     co::Chars view(uint32_t index);
@@ -146,9 +147,9 @@ private:
     int64_t length(uint32_t index) const; // at most
     [[gnu::cold]] void reserve(int64_t length);
 
-    coVector const *strings = nullptr; // of a raw header, or else
-    WireText const *text = nullptr;    // the received bytes
-    uint32_t place = noLine;           // of the next line
+    HeaderLines const *set = nullptr; // of a raw header, or else
+    WireText const *text = nullptr;   // the received bytes
+    uint32_t place = noLine;          // of the next line
     uint32_t current = noLine;
     uint32_t firstPlace = noLine;
     uint32_t lastPlace = noLine;

@@ -2,6 +2,7 @@
 
 #define CO_UNIT "source/quill/quill_message_header"
 
+#include <algorithm>
 #include <co/co_simd.hpp>
 #include <co/co_store.h>
 #include <co/co_vector.hpp>
@@ -88,6 +89,40 @@ bool quillMessageHeaderLineOk(struct coString const *line) {
     return !co::simd::contains(text, U'\r') || text.find(U"\r\n") == co::Chars::npos;
 }
 
+// The lines of a header.
+
+coString *quill::HeaderLines::string(int64_t index) const {
+    return strings ? coStringFrom(coVectorObjAt(strings, index)) : elements->string(index);
+}
+
+void quill::HeaderLines::set(coVector *lines) {
+    if (coVector *old = std::exchange(strings, co::retained(lines))) co::release(old);
+    if (coObj *old = std::exchange(owner, nullptr)) co::release(old);
+}
+
+void quill::HeaderLines::set(coObj *elementsOwner, Elements const *pieces) {
+    if (coObj *old = std::exchange(owner, co::retained(elementsOwner))) co::release(old);
+    elements = pieces;
+    if (coVector *old = std::exchange(strings, nullptr)) co::release(old);
+}
+
+coVector **quill::HeaderLines::writable() {
+    if (!strings) {
+        co::Ref<coVector> const made(vector());
+        set(made.get());
+    }
+    return &strings;
+}
+
+// Line by line; the shorter of two that begin alike comes first.
+int quill::HeaderLines::compare(HeaderLines const &other) const {
+    if (strings && other.strings) return co::compare(strings, other.strings);
+    int64_t const common = std::min(length(), other.length());
+    for (int64_t i = 0; i < common; i++)
+        if (int const order = view(i).compare(other.view(i))) return order < 0 ? -1 : 1;
+    return (length() > other.length()) - (length() < other.length());
+}
+
 // Creation and name.
 
 struct quillMessageHeader *quill::makeMessageHeader(coString *normalName) {
@@ -120,12 +155,12 @@ CO_DEFINE_TEXT_FORMS_1(bool, quillMessageHeaderNameEquals, struct quillMessageHe
 
 int64_t quillMessageHeaderLinesLength(struct quillMessageHeader const *header) {
     CO_ASSERT_GIVEN(header);
-    return header->lines->length;
+    return header->lines.length();
 }
 
 struct coString *quillMessageHeaderLineAt(struct quillMessageHeader const *header, int64_t index) {
     CO_ASSERT_GIVEN(header);
-    return coStringFrom(coVectorObjAt(header->lines.get(), index));
+    return header->lines.string(index);
 }
 
 struct coString *quillMessageHeaderLastLine(struct quillMessageHeader const *header) {
@@ -135,7 +170,7 @@ struct coString *quillMessageHeaderLastLine(struct quillMessageHeader const *hea
 
 struct coVector *quillMessageHeaderLinesVector(struct quillMessageHeader const *header) {
     CO_ASSERT_GIVEN(header);
-    return header->lines.retained();
+    return header->lines.vector();
 }
 
 void quillMessageHeaderSetLinesVector(struct quillMessageHeader **header, struct coVector *lines) {
@@ -150,18 +185,18 @@ void quillMessageHeaderSetLinesVector(struct quillMessageHeader **header, struct
 void quillMessageHeaderSetLineAt(struct quillMessageHeader **header, int64_t index, struct coString *value) {
     CO_ASSERT_REFERENCE(header);
     CO_ASSERT_OK(quillMessageHeaderLineOk, value);
-    coVectorSetStringAt(co::writable(header)->lines.address(), index, value);
+    coVectorSetStringAt(co::writable(header)->lines.writable(), index, value);
 }
 
 void quillMessageHeaderAppendLine(struct quillMessageHeader **header, struct coString *value) {
     CO_ASSERT_REFERENCE(header);
     CO_ASSERT_OK(quillMessageHeaderLineOk, value);
-    coVectorAppendString(co::writable(header)->lines.address(), value);
+    coVectorAppendString(co::writable(header)->lines.writable(), value);
 }
 
 void quillMessageHeaderDelLineAt(struct quillMessageHeader **header, int64_t index) {
     CO_ASSERT_REFERENCE(header);
-    coVectorDelAt(co::writable(header)->lines.address(), index);
+    coVectorDelAt(co::writable(header)->lines.writable(), index);
 }
 
 CO_DEFINE_TEXT_FORMS_2(void, quillMessageHeaderSetLineAt, struct quillMessageHeader **, header, int64_t, index, line)
@@ -214,9 +249,9 @@ void quillMessageHeaderAppendLineFormatWcstr(struct quillMessageHeader **header,
 struct coStore *quillMessageHeaderStoreLines(struct quillMessageHeader const *header) {
     CO_ASSERT_GIVEN(header);
     coStore *store = coStoreCreate();
-    coVector const *lines = header->lines.get();
+    co::Ref<coVector> const lines(header->lines.vector());
     for (int64_t i = 0; i < lines->length; i++)
-        coStoreSetValueFormatCstr(&store, "%.*A", -1, co::stringAt(lines, i), lines->length - 1, i);
+        coStoreSetValueFormatCstr(&store, "%.*A", -1, co::stringAt(lines.get(), i), lines->length - 1, i);
     return store;
 }
 

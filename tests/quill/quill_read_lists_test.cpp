@@ -210,6 +210,45 @@ TEST_P(QuillReadList, HoldsFewAndManyElements) {
     }
 }
 
+// A raw header that a list wrote has its lines without a vector of them, and keeps the list. It is what one of strings is.
+TEST_P(QuillReadList, WritesRawHeadersLikeThoseOfStrings) {
+    std::string const element = list.begins[0] + ";x=\"\xC3\xBC\"";
+    for (size_t n : {1, 3, 50}) {
+        Texts const lines(n, element);
+        auto const strings = rawHeader(list.field, lines);
+        co::Ref<coObj> hdr(list.decode(strings.get()));
+        ASSERT_TRUE(hdr);
+        co::Ref<RawHeader> written(list.encode(hdr.get()));
+        list.deleteAt(hdr.address(), 0);
+        hdr.reset(list.decode(written.get()));
+        EXPECT_EQ(list.length(hdr.get()), static_cast<int64_t>(n)) << "the change is the list's own";
+
+        EXPECT_EQ(quillMessageHeaderLinesLength(written.get()), static_cast<int64_t>(n));
+        EXPECT_EQ(utf8(own(quillMessageHeaderLastLine(written.get())).get()), element);
+        EXPECT_ABORT(quillMessageHeaderLineAt(written.get(), static_cast<int64_t>(n)), "source/co/co_vector",
+                     "index >= 0 && index < coVectorLength( vector )");
+        EXPECT_ABORT(quillMessageHeaderLineAt(written.get(), -1), "source/co/co_vector",
+                     "index >= 0 && index < coVectorLength( vector )");
+        EXPECT_TRUE(quillMessageHeaderEquals(written.get(), strings.get()));
+        EXPECT_TRUE(quillMessageHeaderEquals(own(quillMessageHeaderCreateFrom(written.get())).get(), strings.get()));
+        EXPECT_TRUE(coStoreEquals(own(quillMessageHeaderStore(written.get())).get(),
+                                  own(quillMessageHeaderStore(strings.get())).get()));
+
+        co::Ref<RawHeader> longer(co::retained(written.get()));
+        quillMessageHeaderAppendLineCstr(longer.address(), "a", -1);
+        EXPECT_EQ(quillMessageHeaderLinesLength(longer.get()), static_cast<int64_t>(n) + 1);
+        EXPECT_EQ(linesOf(written.get()), lines) << "it is copied on write";
+        EXPECT_LT(quillMessageHeaderCompare(written.get(), longer.get()), 0);
+        EXPECT_GT(quillMessageHeaderCompare(longer.get(), written.get()), 0);
+        co::Ref<RawHeader> other(co::retained(written.get()));
+        quillMessageHeaderSetLineAtCstr(other.address(), 0, " ", -1);
+        EXPECT_GT(quillMessageHeaderCompare(written.get(), other.get()), 0);
+        EXPECT_LT(quillMessageHeaderCompare(other.get(), written.get()), 0);
+        quillMessageHeaderDelLineAt(longer.address(), static_cast<int64_t>(n));
+        EXPECT_TRUE(quillMessageHeaderEquals(written.get(), longer.get()));
+    }
+}
+
 TEST(QuillReadListVia, CopiesKeepWhatTheyShare) {
     Texts lines;
     for (int i = 0; i < 100; i++) lines.push_back("SIP/2.0/UDP h" + std::to_string(i));
