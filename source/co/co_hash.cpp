@@ -98,6 +98,39 @@ uint64_t co::sipHash(HashKey key, Chars text) {
     return all < 0x80 ? state.finish() : hashWide(SipState(key), text);
 }
 
+static uint64_t packed(std::string_view bytes) {
+    uint64_t word = 0;
+    int shift = 0;
+    for (char const byte : bytes) {
+        word |= uint64_t{static_cast<uint8_t>(byte)} << shift;
+        shift += 8;
+    }
+    return word;
+}
+
+static uint64_t packed(Chars ascii) {
+    coChar all = 0;
+    return packed(ascii, &all);
+}
+
+// Of the eight US-ASCII characters of a word. Adding sets a byte's highest bit from a certain character on.
+static uint64_t lowerCase(uint64_t word) {
+    constexpr uint64_t each = 0x0101010101010101;
+    uint64_t const fromA = word + each * (0x80 - 'A');
+    uint64_t const behindZ = word + each * (0x7F - 'Z');
+    return word | ((fromA ^ behindZ) & each * 0x80) >> 2;
+}
+
+template <class Text> static uint64_t hashInLowerCase(SipState state, Text ascii) {
+    size_t at = 0;
+    for (; at + 8 <= ascii.size(); at += 8) state.absorb(lowerCase(packed(ascii.substr(at, 8))));
+    state.absorb(lowerCase(packed(ascii.substr(at))) | static_cast<uint64_t>(ascii.size()) << 56);
+    return state.finish();
+}
+
+uint64_t co::sipHashIgnoringCase(HashKey key, std::string_view ascii) { return hashInLowerCase(SipState(key), ascii); }
+uint64_t co::sipHashIgnoringCase(HashKey key, Chars ascii) { return hashInLowerCase(SipState(key), ascii); }
+
 co::HashKey co::processHashKey() {
     static constinit std::atomic<uint64_t> first{0};
     static constinit std::atomic<uint64_t> second{0};

@@ -14,9 +14,14 @@ struct HashKey {
 // first.
 uint64_t sipHash(HashKey key, Chars text);
 
+// Of US-ASCII alone: the same of its letters in lower case.
+uint64_t sipHashIgnoringCase(HashKey key, std::string_view ascii);
+uint64_t sipHashIgnoringCase(HashKey key, Chars ascii);
+
 // The key that this process has drawn at random; the same at every call.
 HashKey processHashKey();
 
 inline uint64_t hash(Chars text) { return sipHash(processHashKey(), text); }
+template <class Text> uint64_t hashIgnoringCase(Text ascii) { return sipHashIgnoringCase(processHashKey(), ascii); }
 
 } // namespace co

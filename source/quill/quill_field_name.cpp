@@ -154,13 +154,31 @@ int findCompactName(char ch) {
     return letter >= 'a' && letter <= 'z' ? compactNames[static_cast<size_t>(letter - 'a')] : -1;
 }
 
-uint64_t wordAt(char const *text) {
-    uint64_t word = 0;
+template <class Word = uint64_t> Word wordAt(char const *text) {
+    Word word = 0;
     std::memcpy(&word, text, sizeof word);
     return word;
 }
 
-struct FieldName {
+// The first and the last bytes of a text, which may overlap, as one word.
+template <class Half> uint64_t joined(std::string_view bytes) {
+    size_t const second = bytes.size() - sizeof(Half);
+    return wordAt<Half>(bytes.data()) | uint64_t{wordAt<Half>(bytes.data() + second)} << 8 * second;
+}
+
+// Up to eight bytes as a word, zeros behind them. A word that was just written byte by byte would be waited for.
+uint64_t wordOf(std::string_view bytes) {
+    if (bytes.size() >= 8) return wordAt(bytes.data());
+    if constexpr (std::endian::native == std::endian::little) {
+        if (bytes.size() >= 4) return joined<uint32_t>(bytes);
+        if (bytes.size() >= 2) return joined<uint16_t>(bytes);
+    }
+    uint64_t word = 0;
+    if (!bytes.empty()) std::memcpy(&word, bytes.data(), bytes.size());
+    return word;
+}
+
+struct Match {
     int known; // -1 for none
     bool normal;
 };
@@ -175,7 +193,7 @@ uint64_t difference(std::array<uint64_t, count> const &text, Words const &wanted
 
 // A name of more than one letter, and no longer than `text`, that `text` begins with.
 template <size_t count>
-[[gnu::always_inline]] inline FieldName match(std::array<uint64_t, count> const &text, size_t length) {
+[[gnu::always_inline]] inline Match match(std::array<uint64_t, count> const &text, size_t length) {
     int const i = candidate(text[0] & firstWordMasks[length], length);
     if (i < 0) return {-1, false};
     Known const &forms = knownForms[static_cast<size_t>(i)];
@@ -185,16 +203,16 @@ template <size_t count>
 }
 
 // A name of any length, which is copied: what stands behind it may not be there to be read.
-[[gnu::noinline]] FieldName matchCopy(std::string_view name) {
+[[gnu::noinline]] Match matchCopy(std::string_view name) {
     if (name.size() <= 1) return {name.empty() ? -1 : findCompactName(name[0]), false};
     if (name.size() > longest) return {-1, false};
     Words copy{};
-    std::memcpy(&copy, name.data(), name.size());
+    for (size_t i = 0; i < name.size(); i += 8) copy[i / 8] = wordOf(name.substr(i, 8));
     return match(copy, name.size());
 }
 
 // `readable` bytes can be read from the name's start on. Most names have no more than two words.
-inline FieldName match(std::string_view name, size_t readable) {
+inline Match match(std::string_view name, size_t readable) {
     constexpr size_t usual = 16;
     char const *const text = name.data();
     bool const isUsual = name.size() - 2 <= usual - 2 && readable >= usual;
@@ -213,15 +231,20 @@ int findKnown(co::Chars name) {
 constexpr coChar code(char ch) { return static_cast<unsigned char>(ch); }
 constexpr coChar code(coChar ch) { return ch; }
 
-// Lower case, but upper case for the first letter and those after a hyphen.
-template <class Char> coString *makeNormal(std::basic_string_view<Char> name) {
-    coString *normal = co::makeString(static_cast<int64_t>(name.size()));
+// Lower case, but upper case for the first letter and those after a hyphen: calls `take` with each character as it is and
+// as it is in the normal form.
+template <class Char, class Take> void forEachNormal(std::basic_string_view<Char> name, Take take) {
     bool atStart = true;
     for (Char ch : name) {
         coChar const ascii = code(ch);
-        normal->chars()[normal->length++] = atStart ? co::asciiUpper(ascii) : co::asciiLower(ascii);
+        take(ascii, atStart ? co::asciiUpper(ascii) : co::asciiLower(ascii));
         atStart = ascii == U'-';
     }
+}
+
+template <class Char> coString *makeNormal(std::basic_string_view<Char> name) {
+    coString *normal = co::makeString(static_cast<int64_t>(name.size()));
+    forEachNormal(name, [normal](coChar, coChar ch) { normal->chars()[normal->length++] = ch; });
     return normal;
 }
 
@@ -244,7 +267,7 @@ namespace quill {
 int knownFieldName(std::string_view name) { return findKnown(name); }
 int knownFieldName(co::Chars name) { return findKnown(name); }
 int matchFieldName(std::string_view name, char const *end, bool *isNormal) {
-    FieldName const field = match(name, static_cast<size_t>(end - name.data()));
+    Match const field = match(name, static_cast<size_t>(end - name.data()));
     *isNormal = field.normal;
     return field.known;
 }
@@ -268,7 +291,19 @@ uint8_t *putFieldName(uint8_t *to, int i) {
 
 coString *tryNormalizeFieldName(std::string_view name) { return tryNormalize(name); }
 coString *tryNormalizeFieldName(co::Chars name) { return tryNormalize(name); }
-coString *tryMakeFieldName(std::string_view unknown) { return tryMakeNormal(unknown); }
+
+NameForm formOfFieldName(std::string_view name) {
+    NameForm form{!name.empty(), true};
+    forEachNormal(name, [&form](coChar ch, coChar normal) {
+        form.isName &= isToken(ch);
+        form.isNormal &= ch == normal;
+    });
+    return form;
+}
+
+void normalizeFieldName(char *name, size_t length) {
+    forEachNormal(std::string_view(name, length), [&](coChar, coChar normal) { *name++ = static_cast<char>(normal); });
+}
 
 void startFieldNames() {
     for (size_t i = 0; i < std::size(known); i++) startShared(&sharedFieldNames[i], makeNormal(known[i]));

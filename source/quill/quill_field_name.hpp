@@ -16,6 +16,13 @@ int knownFieldName(co::Chars name);
 // text behind it is compared in whole words.
 int matchFieldName(std::string_view name, char const *end, bool *isNormal);
 
+// A name: its number, or else a text, which is a token, in its normal form or as it was received.
+struct FieldName {
+    int known = -1;
+    co::Chars normal = {};
+    std::string_view received = {}; // where there is no normal form
+};
+
 inline constexpr int knownFieldNameCount = 65;
 inline constexpr int contentLengthFieldName = 59;       // the number of Content-Length
 extern coString *sharedFieldNames[knownFieldNameCount]; // null before start-up, all ones after shut-down
@@ -29,7 +36,14 @@ uint8_t *putFieldName(uint8_t *to, int known);
 // The normal form as an owned string, shared where the name is known; null where the text is no token.
 coString *tryNormalizeFieldName(std::string_view name);
 coString *tryNormalizeFieldName(co::Chars name);
-coString *tryMakeFieldName(std::string_view unknown); // of a name that is none of the known ones
+
+// Of a name that is none of the known ones: whether it is a token at all, and in its normal form.
+struct NameForm {
+    bool isName;
+    bool isNormal;
+};
+NameForm formOfFieldName(std::string_view name);
+void normalizeFieldName(char *name, size_t length); // in its place
 
 void startFieldNames();
 void stopFieldNames();

@@ -8,6 +8,7 @@
 #include <co/co_hash.hpp>
 #include <co/co_memory.h>
 #include <co/co_simd.hpp>
+#include <co/co_unicode.hpp>
 #include <cstring>
 #include <quill/quill_field_name.hpp>
 #include <quill/quill_header_table.hpp>
@@ -57,7 +58,8 @@ template <class Add> void forEachPiece(Bytes folded, Add add) {
 struct HeaderSet : coObj {
     static coSort const sort;
 
-    WireText *text; // null where nothing was decoded
+    WireText *text;    // null where nothing was decoded
+    char const *bytes; // the received ones; while they are decoded, those of the caller
     HeaderEntry *entries;
     int64_t used; // with gaps
     int64_t length;
@@ -65,25 +67,36 @@ struct HeaderSet : coObj {
     int64_t unknown;  // entries of other names, with gaps
     uint32_t *slots;  // of other names, open addressing, a quarter taken at most; null while they are few
     int64_t slotMask; // their number is a power of two
-    bool counts;      // some entry holds a reference
+    bool counts;      // some entry holds a header
     bool hashed;      // entries of other names have their hashes
     uint32_t placeOfKnown[knownFieldNameCount];
 
     HeaderEntry *inlineEntries() { return reinterpret_cast<HeaderEntry *>(this + 1); }
     bool hasOutgrown() const { return entries != reinterpret_cast<HeaderEntry const *>(this + 1); }
     uint32_t find(int known) const { return placeOfKnown[known]; }
-    uint32_t findUnknown(co::Chars name, uint32_t hash) const;
-    uint32_t find(co::Chars name, int known) const { return known >= 0 ? find(known) : findUnknown(name, hash(name)); }
-    uint32_t hash(co::Chars name) const { return hashed ? static_cast<uint32_t>(co::hash(name)) : 0; }
-    // Without lines; takes over a reference to the name if it is unknown. Its hash is needed then.
-    HeaderEntry &add(coString *name, int known, uint32_t hash = 0);
+    // By a normal form, or by a name as it was received.
+    template <class Name> uint32_t findUnknown(Name name, uint32_t hash) const;
+    uint32_t find(FieldName name) const {
+        if (name.known >= 0) return find(name.known);
+        return name.normal.empty() ? findUnknown(name.received, hash(name.received))
+                                   : findUnknown(name.normal, hash(name.normal));
+    }
+    template <class Name> uint32_t hash(Name name) const {
+        return hashed ? static_cast<uint32_t>(co::hashIgnoringCase(name)) : 0;
+    }
+    // The name of an entry that is not known and was received.
+    Bytes receivedName(HeaderEntry const &entry) const { return {bytes + entry.name, entry.nameLength}; }
+    void add(HeaderEntry const &entry);
     void remove(uint32_t place);
     void copyFrom(HeaderSet const &source); // into a new set with room for all its entries
 
 private:
+    bool isNamed(HeaderEntry const &entry, co::Chars normal) const;
+    bool isNamed(HeaderEntry const &entry, Bytes name) const;
+    uint32_t hashOf(HeaderEntry const &entry) const;
     [[gnu::cold]] void grow();
     void index(uint32_t place);
-    void indexLast(uint32_t hash); // a new entry of another name
+    void indexLast(); // a new entry of another name
     void indexAll();
     void closeGaps();
 };
@@ -101,6 +114,7 @@ static int64_t sizeOfHeaderSet(coObj const *obj) {
 static HeaderSet *makeHeaderSet(int64_t capacity) {
     auto *set = static_cast<HeaderSet *>(co::allocateObject(sizeOfHeaderSet(capacity), &HeaderSet::sort));
     set->text = nullptr;
+    set->bytes = nullptr;
     set->entries = set->inlineEntries();
     set->used = set->length = set->unknown = 0;
     set->capacity = capacity;
@@ -115,15 +129,10 @@ static void freeEntries(HeaderSet *set) {
     if (set->hasOutgrown()) coMemFree(set->entries);
 }
 
-// The names of known fields are not counted.
-static void releaseEntry(HeaderEntry const &entry) {
-    if (entry.known < 0 && entry.name) co::release(entry.name);
-    if (entry.header) co::release(entry.header);
-}
-
 static void freeHeaderSet(coObj *obj) {
     auto *set = static_cast<HeaderSet *>(obj);
-    for (int64_t i = 0; set->counts && i < set->used; i++) releaseEntry(set->entries[i]);
+    for (int64_t i = 0; set->counts && i < set->used; i++)
+        if (set->entries[i].header) co::release(set->entries[i].header);
     if (set->text) co::release(set->text);
     freeEntries(set);
     coMemFree(set->slots);
@@ -134,18 +143,43 @@ static void freeHeaderSet(coObj *obj) {
 constinit coSort const HeaderSet::sort{
     &co___sort_CO_SORT, &quill___module, "QUILL_HEADER_SET", freeHeaderSet, nullptr, nullptr, 0, sizeOfHeaderSet};
 
-uint32_t HeaderSet::findUnknown(co::Chars name, uint32_t hash) const {
+static bool equals(Bytes bytes, co::Chars chars) {
+    return std::equal(bytes.begin(), bytes.end(), chars.begin(), chars.end(),
+                      [](char byte, coChar ch) { return static_cast<unsigned char>(byte) == ch; });
+}
+
+bool HeaderSet::isNamed(HeaderEntry const &entry, co::Chars normal) const {
+    if (entry.header) return entry.header->name->view() == normal;
+    return !entry.isGap() && equals(receivedName(entry), normal);
+}
+
+// Names that differ in letter case alone have the same normal form.
+template <class Other> static bool equalsIgnoringCase(Bytes name, Other other) {
+    auto const lower = [](auto ch) { return co::asciiLower(static_cast<std::make_unsigned_t<decltype(ch)>>(ch)); };
+    return std::equal(name.begin(), name.end(), other.begin(), other.end(),
+                      [lower](auto a, auto b) { return lower(a) == lower(b); });
+}
+
+bool HeaderSet::isNamed(HeaderEntry const &entry, Bytes name) const {
+    if (entry.header) return equalsIgnoringCase(name, entry.header->name->view());
+    return !entry.isGap() && equalsIgnoringCase(name, receivedName(entry));
+}
+
+template <class Name> uint32_t HeaderSet::findUnknown(Name name, uint32_t hash) const {
     if (unknown == 0) return noEntry;
     if (slots) {
-        for (int64_t slot = hash & slotMask; slots[slot] != noEntry; slot = (slot + 1) & slotMask) {
-            HeaderEntry const &entry = entries[slots[slot]];
-            if (entry.hash == hash && entry.name && entry.name->view() == name) return slots[slot];
-        }
-        return noEntry;
+        int64_t slot = hash & slotMask;
+        for (; slots[slot] != noEntry; slot = (slot + 1) & slotMask)
+            if (entries[slots[slot]].hash == hash && isNamed(entries[slots[slot]], name)) break;
+        return slots[slot];
     }
     for (int64_t i = 0; i < used; i++)
-        if (entries[i].name && entries[i].name->view() == name) return static_cast<uint32_t>(i);
+        if (entries[i].known < 0 && isNamed(entries[i], name)) return static_cast<uint32_t>(i);
     return noEntry;
+}
+
+uint32_t HeaderSet::hashOf(HeaderEntry const &entry) const {
+    return entry.header ? hash(entry.header->name->view()) : hash(receivedName(entry));
 }
 
 // Gaps keep their slots until all are indexed anew: a search goes on behind them.
@@ -167,14 +201,14 @@ void HeaderSet::indexAll() {
     bool const areHashed = std::exchange(hashed, true);
     for (int64_t i = 0; i < used; i++) {
         HeaderEntry &entry = entries[i];
-        if (!entry.name || entry.known >= 0) continue;
-        if (!areHashed) entry.hash = hash(entry.name->view());
+        if (entry.isGap() || entry.known >= 0) continue;
+        if (!areHashed) entry.hash = hashOf(entry);
         index(static_cast<uint32_t>(i));
     }
 }
 
 void HeaderSet::grow() {
-    int64_t const wanted = capacity + capacity / 2 + 8;
+    int64_t const wanted = capacity * 2 + 8;
     auto *moved = static_cast<HeaderEntry *>(coMemAllocN(wanted, sizeof(HeaderEntry)));
     std::copy(entries, entries + used, moved);
     freeEntries(this);
@@ -182,38 +216,29 @@ void HeaderSet::grow() {
     capacity = wanted;
 }
 
-void HeaderSet::indexLast(uint32_t hash) {
+void HeaderSet::indexLast() {
     unknown++;
-    counts = true;
-    entries[used - 1].hash = hash;
     if (slots ? unknown * 4 > slotMask : unknown > fewUnknown)
         indexAll();
     else if (slots)
         index(static_cast<uint32_t>(used - 1));
 }
 
-inline HeaderEntry &HeaderSet::add(coString *name, int known, uint32_t hash) {
+inline void HeaderSet::add(HeaderEntry const &entry) {
     if (used == capacity) grow();
     auto const place = static_cast<uint32_t>(used++);
     length++;
-    HeaderEntry &entry = entries[place];
-    entry.name = name;
-    entry.header = nullptr;
-    entry.first = entry.last = noLine;
-    entry.count = 0;
-    entry.known = known;
-    if (known >= 0)
-        placeOfKnown[known] = place;
+    entries[place] = entry;
+    if (entry.known >= 0)
+        placeOfKnown[entry.known] = place;
     else
-        indexLast(hash);
-    return entry;
+        indexLast();
 }
 
 void HeaderSet::remove(uint32_t place) {
     HeaderEntry &entry = entries[place];
-    releaseEntry(entry);
-    entry.name = nullptr;
-    entry.header = nullptr;
+    if (struct quillMessageHeader *old = std::exchange(entry.header, nullptr)) co::release(old);
+    entry.count = 0;
     length--;
     if (entry.known >= 0) placeOfKnown[entry.known] = noEntry;
     if (used > 16 && length < used / 2) closeGaps();
@@ -223,7 +248,7 @@ void HeaderSet::closeGaps() {
     int64_t kept = 0;
     unknown = 0;
     for (int64_t i = 0; i < used; i++) {
-        if (!entries[i].name) continue;
+        if (entries[i].isGap()) continue;
         entries[kept] = entries[i];
         if (int const known = entries[kept].known; known >= 0)
             placeOfKnown[known] = static_cast<uint32_t>(kept);
@@ -237,15 +262,14 @@ void HeaderSet::closeGaps() {
 
 void HeaderSet::copyFrom(HeaderSet const &source) {
     text = co::retained(source.text);
+    bytes = source.bytes;
     counts = source.counts;
     hashed = source.hashed;
     std::copy(source.entries, source.entries + source.used, entries);
     used = source.used;
     length = source.length;
-    for (int64_t i = 0; counts && i < used; i++) {
-        if (entries[i].known < 0 && entries[i].name) co::retain(entries[i].name);
+    for (int64_t i = 0; counts && i < used; i++)
         if (entries[i].header) co::retain(entries[i].header);
-    }
     closeGaps();
 }
 
@@ -290,16 +314,13 @@ private:
     }
 };
 
-bool equals(Bytes bytes, co::Chars chars) {
-    return std::equal(bytes.begin(), bytes.end(), chars.begin(), chars.end(),
-                      [](char byte, coChar ch) { return static_cast<unsigned char>(byte) == ch; });
-}
-
 // Splits header lines, each of which is found, named and entered in one go.
 class Splitter {
 public:
     Splitter(Bytes all, bool toEmptyLine, HeaderSet *headerSet)
-        : text(all), untilEmptyLine(toEmptyLine), set(headerSet) {}
+        : text(all), untilEmptyLine(toEmptyLine), set(headerSet) {
+        set->bytes = text.data();
+    }
 
     // A header goes on in the lines that begin with a blank. Blanks that follow no header say nothing.
     bool split() {
@@ -326,6 +347,7 @@ public:
     Bytes rest;    // behind the empty line
     LineIndex index;
     int64_t encodedLength = 0;
+    bool hasOddNames = false; // some are not in their normal form, known ones apart
 
 private:
     bool finish(char const *end, char const *next) {
@@ -345,8 +367,8 @@ private:
         }
     }
 
-    // A line of a known name, with one blank behind the colon and none at another place: as nearly all are. False, and
-    // nothing is kept, for any other. No known name holds a line end, so that the search for the colon needn't mind it.
+    // A line of a short name with one blank behind the colon and none at another place: as nearly all are. False, and
+    // nothing is kept, for any other. No name holds a line end, so that the search for the colon needn't mind it.
     [[gnu::always_inline]] bool keepUsual(char const *start, char const *end) {
         constexpr size_t nameRoom = 32; // and the colon: two blocks
         static_assert(nameRoom > fieldNameRoom);
@@ -354,12 +376,13 @@ private:
         Bytes const name(start, co::simd::find(Bytes(start, std::min(left, nameRoom)), ':'));
         bool isNormal;
         int const known = matchFieldName(name, text.end(), &isNormal);
-        if (known < 0 || end - name.end() < 3 || name.end()[1] != ' ') return false;
+        if (end - name.end() < 3 || name.end()[1] != ' ') return false;
         Bytes const value(name.end() + 2, end);
         if (isBlank(value.front()) || isBlank(value.back())) return false;
-        addLine(start, value, {.folded = false, .plain = true, .canonical = isNormal});
+        if (known < 0) return *name.end() == ':' && tryKeepUnknown(name, value, {.folded = false, .plain = true});
+        addLine(name, value, {.folded = false, .plain = true, .canonical = isNormal});
         countWritten(known, name.size(), value.size());
-        enter(set->find(known), fieldNameAt(known), known);
+        enter(set->find(known), known);
         return true;
     }
 
@@ -380,22 +403,23 @@ private:
         }
         bool isNormal;
         int const known = matchFieldName(name, text.end(), &isNormal);
-        addLine(start, value, {folded && value.find("\r\n") != Bytes::npos, usual, usual && isNormal});
+        Form const form{folded && value.find("\r\n") != Bytes::npos, usual, usual && isNormal};
+        if (known < 0) return tryKeepUnknown(name, value, form);
+        addLine(name, value, form);
         countWritten(known, name.size(), value.size());
-        if (known < 0) return enterUnknown(name, usual);
-        enter(set->find(known), fieldNameAt(known), known);
+        enter(set->find(known), known);
         return true;
     }
 
     struct Form {
         bool folded;
         bool plain;
-        bool canonical;
+        bool canonical = false;
     };
 
-    void addLine(char const *start, Bytes value, Form form) {
+    void addLine(Bytes name, Bytes value, Form form) {
         WireLine *const line = index.add();
-        line->start = offset(start);
+        line->start = offset(name.begin());
         line->value = offset(value.begin());
         line->length = static_cast<uint32_t>(value.size());
         line->next = noLine;
@@ -409,33 +433,45 @@ private:
         encodedLength += static_cast<int64_t>(nameLength + valueLength) + 4;
     }
 
-    bool enterUnknown(Bytes name, bool usual) {
+    // False, and nothing is kept, where the name is none at all.
+    [[gnu::noinline]] bool tryKeepUnknown(Bytes name, Bytes value, Form form) {
         bool const isSame = unknown.place != noEntry && name == unknown.name;
         if (!isSame && !findUnknown(name)) return false;
-        index.lines[index.count - 1].canonical = usual && unknown.isNormal;
-        enter(unknown.place, nullptr, -1);
+        form.canonical = form.plain && unknown.isNormal;
+        addLine(name, value, form);
+        countWritten(-1, name.size(), value.size());
+        enter(unknown.place, -1, unknown.hash);
         return true;
     }
 
-    // Finds or makes the entry of a name.
     bool findUnknown(Bytes name) {
-        co::Ref<coString> normal(tryMakeFieldName(name));
-        if (!normal) return false;
-        uint32_t const hash = set->hash(normal->view());
-        unknown = {name, equals(name, normal->view()), set->findUnknown(normal->view(), hash)};
-        if (unknown.place != noEntry) return true;
-        unknown.place = static_cast<uint32_t>(set->used);
-        set->add(normal.take(), -1, hash);
+        NameForm const form = formOfFieldName(name);
+        if (!form.isName) return false;
+        uint32_t const hash = set->hash(name);
+        uint32_t const place = set->findUnknown(name, hash);
+        unknown = {name, form.isNormal, place == noEntry ? static_cast<uint32_t>(set->used) : place, hash};
+        hasOddNames = hasOddNames || !form.isNormal;
         return true;
     }
 
-    // The last line is one more of an entry, or the first one of a known name's new entry.
-    void enter(uint32_t place, coString *name, int known) {
+    // The last line is one more of an entry, or the first one of a new entry.
+    [[gnu::always_inline]] void enter(uint32_t place, int known, uint32_t hash = 0) {
         auto const line = static_cast<uint32_t>(index.count - 1);
-        HeaderEntry &entry = place == noEntry ? set->add(name, known) : set->entries[place];
-        (entry.count == 0 ? entry.first : index.lines[entry.last].next) = line;
+        if (place >= set->used) return addEntry(line, known, hash);
+        HeaderEntry &entry = set->entries[place];
+        index.lines[entry.last].next = line;
         entry.last = line;
         entry.count++;
+    }
+
+    void addEntry(uint32_t line, int known, uint32_t hash) {
+        set->add({.first = line,
+                  .last = line,
+                  .count = 1,
+                  .known = known,
+                  .hash = hash,
+                  .name = index.lines[line].start,
+                  .nameLength = static_cast<uint32_t>(unknown.name.size())});
     }
 
     // A name with line ends around it is one nevertheless; empty where there are several pieces.
@@ -452,7 +488,8 @@ private:
     struct Unknown {
         Bytes name;
         bool isNormal = false;
-        uint32_t place = noEntry;
+        uint32_t place = noEntry; // the next new one, where it has none yet
+        uint32_t hash = 0;
     };
 
     Bytes const text;
@@ -462,6 +499,22 @@ private:
 };
 
 } // namespace
+
+// Puts names that are none of the known ones into their normal form, so that they can be compared and written as they stand.
+static void normalizeNames(HeaderSet const *set, WireText *text) {
+    for (int64_t i = 0; i < set->used; i++) {
+        HeaderEntry const &entry = set->entries[i];
+        if (entry.known >= 0) continue;
+        char *const name = text->bytes() + entry.name;
+        normalizeFieldName(name, entry.nameLength);
+        for (uint32_t k = entry.first; k != noLine; k = text->lines()[k].next) {
+            WireLine &line = text->lines()[k];
+            if (!line.plain || line.canonical) continue;
+            if (k != entry.first) std::memcpy(text->bytes() + line.start, name, entry.nameLength);
+            line.canonical = true;
+        }
+    }
+}
 
 bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine) {
     co::Ref<HeaderSet> set(makeHeaderSet(usualEntries));
@@ -479,6 +532,8 @@ bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine) {
     text->ascii = chars.chars == byteCount;
     text->encodedLength = splitter.encodedLength;
     std::copy(index.lines, index.lines + index.count, text->lines());
+    set->bytes = text->bytes();
+    if (splitter.hasOddNames) normalizeNames(set.get(), text);
     headers.adopt(set.take());
     *rest = splitter.rest;
     return true;
@@ -486,20 +541,10 @@ bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine) {
 
 // Reading.
 
-static int knownNumber(coString const *normal) { return co::isImmortal(normal) ? knownFieldName(normal->view()) : -1; }
-
-static HeaderEntry const *entryAt(HeaderSet const *set, uint32_t place) {
+HeaderEntry const *HeaderTable::find(FieldName name) const {
+    HeaderSet const *set = headers.get();
+    uint32_t const place = set ? set->find(name) : noEntry;
     return place == noEntry ? nullptr : &set->entries[place];
-}
-
-HeaderEntry const *HeaderTable::find(coString const *normal) const {
-    HeaderSet const *set = headers.get();
-    return set ? entryAt(set, set->find(normal->view(), knownNumber(normal))) : nullptr;
-}
-
-HeaderEntry const *HeaderTable::find(int known) const {
-    HeaderSet const *set = headers.get();
-    return set ? entryAt(set, set->find(known)) : nullptr;
 }
 
 // The pieces of a folded value, joined.
@@ -522,19 +567,16 @@ static coString *makeLine(WireText const *text, WireLine const &line) {
 
 static struct quillMessageHeader *makeHeader(HeaderSet const *set, HeaderEntry const &entry) {
     if (entry.header) return co::retained(entry.header);
-    struct quillMessageHeader *header = makeMessageHeader(entry.name);
+    co::Ref<coString> const name(entry.known >= 0 ? co::retained(fieldNameAt(entry.known))
+                                                  : co::makeStringFromUtf8(set->receivedName(entry)));
+    struct quillMessageHeader *header = makeMessageHeader(name.get());
     for (uint32_t i = entry.first; i != noLine; i = set->text->lines()[i].next)
         co::appendTaken(header->lines.writable(), co::header(makeLine(set->text, set->text->lines()[i])));
     return header;
 }
 
-struct quillMessageHeader *HeaderTable::header(int known) const {
-    HeaderEntry const *entry = find(known);
-    return entry ? makeHeader(headers.get(), *entry) : nullptr;
-}
-
-struct quillMessageHeader *HeaderTable::header(coString const *normal) const {
-    HeaderEntry const *entry = find(normal);
+struct quillMessageHeader *HeaderTable::header(FieldName name) const {
+    HeaderEntry const *entry = find(name);
     return entry ? makeHeader(headers.get(), *entry) : nullptr;
 }
 
@@ -550,7 +592,7 @@ coVector *HeaderTable::vector() const {
     coVector *vector = coVectorCreate();
     HeaderSet const *set = headers.get();
     for (int64_t i = 0; set && i < set->used; i++)
-        if (set->entries[i].name) co::appendTaken(&vector, co::header(makeHeader(set, set->entries[i])));
+        if (!set->entries[i].isGap()) co::appendTaken(&vector, co::header(makeHeader(set, set->entries[i])));
     return vector;
 }
 
@@ -647,20 +689,18 @@ void HeaderTable::set(struct quillMessageHeader *header) {
     HeaderSet *set = writable(&headers);
     co::Chars const name = header->name->view();
     int const known = knownFieldName(name);
-    uint32_t const place = set->find(name, known);
-    HeaderEntry &entry = place != noEntry ? set->entries[place]
-                         : known >= 0     ? set->add(fieldNameAt(known), known)
-                                          : set->add(header->name.retained(), known, set->hash(name));
+    uint32_t const hash = known >= 0 ? 0 : set->hash(name);
+    uint32_t const place = known >= 0 ? set->find(known) : set->findUnknown(name, hash);
     set->counts = true;
+    if (place == noEntry) return set->add({.header = co::retained(header), .known = known, .hash = hash});
+    HeaderEntry &entry = set->entries[place];
     if (struct quillMessageHeader *old = std::exchange(entry.header, co::retained(header))) co::release(old);
 }
 
-void HeaderTable::remove(coString const *normal) {
-    co::Chars const name = normal->view();
-    int const known = knownNumber(normal);
-    if (!headers || headers->find(name, known) == noEntry) return;
+void HeaderTable::remove(FieldName name) {
+    if (!has(name)) return;
     HeaderSet *set = writable(&headers);
-    set->remove(set->find(name, known)); // a copy has other places
+    set->remove(set->find(name)); // a copy has other places
 }
 
 void HeaderTable::removeAll() { headers.clear(); }
@@ -744,7 +784,12 @@ private:
     }
 
     void putName(HeaderEntry const &entry) {
-        at = entry.known >= 0 ? putFieldName(at, entry.known) : co::narrowAscii(at, entry.name->view());
+        if (entry.known >= 0)
+            at = putFieldName(at, entry.known);
+        else if (entry.header)
+            at = co::narrowAscii(at, entry.header->name->view());
+        else
+            at = co::put(at, Bytes(text->bytes() + entry.name, entry.nameLength));
     }
 
     void putJoined(Bytes folded) {
@@ -769,7 +814,7 @@ uint8_t *HeaderTable::encode(uint8_t *to, Bytes contentLengthLine) const {
     HeaderEntry const *lengthEntry = find(contentLengthFieldName);
     for (int64_t i = 0; set && i < set->used; i++) {
         HeaderEntry const &entry = set->entries[i];
-        if (!entry.name) continue;
+        if (entry.isGap()) continue;
         if (&entry == lengthEntry)
             writer.writeInstead(entry, contentLengthLine);
         else

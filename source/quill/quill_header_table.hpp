@@ -9,6 +9,7 @@
 #include <co/co_member.hpp>
 #include <co/co_utf8.hpp>
 #include <co/co_vector.hpp>
+#include <quill/quill_field_name.hpp>
 #include <quill/quill_types.h>
 #include <string_view>
 
@@ -38,7 +39,8 @@ struct WireLine {
 
 inline constexpr uint32_t noLine = UINT32_MAX;
 
-// The received header lines, checked as UTF-8; the lines' index follows, then the bytes. Never changed.
+// The received header lines, checked as UTF-8; the lines' index follows, then the bytes. Names that are none of the known
+// ones are in their normal form. Never changed.
 struct WireText : coObj {
     static coSort const sort;
     int64_t lineCount;
@@ -61,13 +63,16 @@ struct HeaderSet;  // what copies of a table share until one of them changes
 
 // What stands under one name.
 struct HeaderEntry {
-    coString *name;                    // in its normal form; null for an entry that was removed
-    struct quillMessageHeader *header; // null while the lines of the received bytes are it
-    uint32_t first;                    // of the lines
-    uint32_t last;
-    uint32_t count;
-    int32_t known; // the number of a known name, whose string is the shared one and not counted; or -1
-    uint32_t hash; // of a name that is not known, once there are many of them
+    struct quillMessageHeader *header = nullptr; // null while the lines of the received bytes are it
+    uint32_t first = noLine;                     // of the lines
+    uint32_t last = noLine;
+    uint32_t count = 0;
+    int32_t known = -1; // the number of a known name
+    uint32_t hash = 0;  // of a name that is not known, once there are many of them
+    uint32_t name = 0;  // where such a name stands in the received bytes; a header that was set has its own
+    uint32_t nameLength = 0;
+
+    bool isGap() const { return !header && count == 0; } // an entry that was removed
 };
 
 // A member of the fragment like a co::Slot: copies share, changes make private.
@@ -79,13 +84,9 @@ public:
     // where a line is none of a header, or not UTF-8.
     bool tryDecode(std::string_view *rest, bool untilEmptyLine);
 
-    // By a name as quillMessageHeaderNameNormalize gives it: only those of known fields are strings that all share.
-    bool has(coString const *normal) const { return find(normal) != nullptr; }
-    struct quillMessageHeader *header(coString const *normal) const;
-    void remove(coString const *normal);
-
-    // The header of a known name, owned, or null.
-    struct quillMessageHeader *header(int known) const;
+    bool has(FieldName name) const { return find(name) != nullptr; }
+    struct quillMessageHeader *header(FieldName name) const; // owned, or null
+    void remove(FieldName name);
 
     // The last line of a known name as it was received, where that is in one piece; else an empty text.
     std::string_view lastReceived(int known) const;
@@ -104,8 +105,8 @@ public:
 
 private:
     friend class Lines;
-    HeaderEntry const *find(coString const *normal) const;
-    HeaderEntry const *find(int known) const; // by the number of a known name
+    HeaderEntry const *find(FieldName name) const;
+    HeaderEntry const *find(int known) const { return find(FieldName{.known = known}); }
 
     co::Slot<HeaderSet> headers; // null for none at all
 };

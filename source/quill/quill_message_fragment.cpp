@@ -236,22 +236,22 @@ struct coVector *quillMessageFragmentHeadersVector(struct quillMessageFragment c
 #define BY_NAME(Result, Fn, Fragment, ASSERT_FRAG, work)                                                               \
     Result Fn(Fragment frag, struct coString const *name) {                                                            \
         ASSERT_FRAG(frag);                                                                                             \
-        co::Ref<coString> const normal(quillMessageHeaderNameNormalize(name));                                         \
+        quill::HeaderName const wanted(name);                                                                          \
         return work;                                                                                                   \
     }                                                                                                                  \
     Result Fn##Cstr(Fragment frag, char const *name, int64_t length) {                                                 \
         ASSERT_FRAG(frag);                                                                                             \
-        co::Ref<coString> const normal(quill::normalizeHeaderName(name, length));                                      \
+        quill::HeaderName const wanted(name, length);                                                                  \
         return work;                                                                                                   \
     }                                                                                                                  \
     Result Fn##Wcstr(Fragment frag, wchar_t const *name, int64_t length) { return Fn(frag, co::Text(name, length)); }
 
 BY_NAME(struct quillMessageHeader *, quillMessageFragmentHeader, struct quillMessageFragment const *, CO_ASSERT_GIVEN,
-        frag->headers.header(normal.get()))
+        frag->headers.header(wanted))
 BY_NAME(bool, quillMessageFragmentHasHeader, struct quillMessageFragment const *, CO_ASSERT_GIVEN,
-        frag->headers.has(normal.get()))
+        frag->headers.has(wanted))
 BY_NAME(void, quillMessageFragmentDelHeader, struct quillMessageFragment **, CO_ASSERT_REFERENCE,
-        co::writable(frag)->headers.remove(normal.get()))
+        co::writable(frag)->headers.remove(wanted))
 
 void quillMessageFragmentSetHeader(struct quillMessageFragment **frag, struct quillMessageHeader *header) {
     CO_ASSERT_REFERENCE(frag);
@@ -266,7 +266,7 @@ void quillMessageFragmentClearHeaders(struct quillMessageFragment **frag) {
 
 struct quillMessageHeader *quillMessageFragmentHeaderContentLength(struct quillMessageFragment const *frag) {
     CO_ASSERT_GIVEN(frag);
-    return frag->headers.header(quill::contentLengthFieldName);
+    return frag->headers.header({.known = quill::contentLengthFieldName});
 }
 
 // Body.

@@ -191,7 +191,7 @@ bool quill___MessageFragmentDecodeHeader(struct quillMessageFragment **frag, str
     co::Ref<coString> const normal(quill::tryNormalizeFieldName(quill::withoutBlanks(text.substr(0, colon))));
     if (!normal) return false;
     co::Ref<coString> const line(co::makeString(quill::withoutBlanks(text.substr(colon + 1))));
-    struct quillMessageHeader *header = (*frag)->headers.header(normal.get());
+    struct quillMessageHeader *header = quillMessageFragmentHeader(*frag, normal.get());
     if (!header) header = quill::makeMessageHeader(normal.get());
     quillMessageHeaderAppendLine(&header, line.get());
     quillMessageFragmentSetHeader(frag, header);

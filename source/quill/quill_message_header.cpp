@@ -76,11 +76,18 @@ struct coString *quillMessageHeaderNameNormalize(struct coString const *name) {
     return quill::tryNormalizeFieldName(name->view());
 }
 
-coString *quill::normalizeHeaderName(char const *name, int64_t length) {
-    bool const isText = name && length >= -1; // or else it is refused below
+quill::HeaderName::HeaderName(coString const *name) : normal(quillMessageHeaderNameNormalize(name)) {
+    field.normal = normal->view();
+    if (co::isImmortal(normal.get())) field.known = knownFieldName(field.normal);
+}
+
+quill::HeaderName::HeaderName(char const *name, int64_t length) {
+    bool const isText = name && length >= -1;
     size_t const size = !isText ? 0 : length < 0 ? std::strlen(name) : static_cast<size_t>(length);
-    coString *normal = isText ? tryNormalizeFieldName(std::string_view(name, size)) : nullptr;
-    return normal ? normal : quillMessageHeaderNameNormalize(co::Text(name, length));
+    field.received = {name, size};
+    field.known = knownFieldName(field.received);
+    bool const isName = field.known >= 0 || formOfFieldName(field.received).isName;
+    if (!isName) co::release(quillMessageHeaderNameNormalize(co::Text(name, length))); // aborts
 }
 
 bool quillMessageHeaderLineOk(struct coString const *line) {

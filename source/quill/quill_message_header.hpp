@@ -4,6 +4,7 @@
 #include <co/co_member.hpp>
 #include <co/co_vector.hpp>
 #include <quill/quill_elements.hpp>
+#include <quill/quill_field_name.hpp>
 #include <quill/quill_internal.h>
 
 namespace quill {
@@ -52,7 +53,17 @@ namespace quill {
 // A header without lines; the name is in its normal form already.
 struct quillMessageHeader *makeMessageHeader(coString *normalName);
 
-// The normal form of a name in UTF-8, as of the string of it, which is not made where the name is a token.
-coString *normalizeHeaderName(char const *name, int64_t length);
+// A name that a header is looked up by. A text that is none aborts, as quillMessageHeaderNameNormalize does.
+class HeaderName {
+public:
+    explicit HeaderName(coString const *name);
+    HeaderName(char const *name, int64_t length);
+
+    operator FieldName() const { return field; }
+
+private:
+    FieldName field;
+    co::Ref<coString> normal; // of one that was given as a string
+};
 
 } // namespace quill

@@ -38,6 +38,21 @@ TEST(Hash, IsSipHash13) {
     for (auto const &row : rows) EXPECT_EQ(co::sipHash(row.key, row.text), row.expected);
 }
 
+TEST(Hash, IgnoresTheCaseOfLettersAlone) {
+    co::HashKey const key{1, 2};
+    for (size_t length : {1, 3, 7, 8, 9, 16, 21})
+        for (size_t place = 0; place < length; place++)
+            for (int ch = 0; ch < 0x80; ch++) {
+                std::string text(length, 'z');
+                text[place] = static_cast<char>(ch);
+                std::u32string chars(text.begin(), text.end());
+                uint64_t const hash = co::sipHashIgnoringCase(key, std::string_view(text));
+                ASSERT_EQ(co::sipHashIgnoringCase(key, co::Chars(chars)), hash) << ch;
+                if (ch >= 'A' && ch <= 'Z') chars[place] = static_cast<char32_t>(ch + 32);
+                ASSERT_EQ(hash, co::sipHash(key, chars)) << ch;
+            }
+}
+
 TEST(Hash, TellsLengthsApart) {
     co::HashKey const key{1, 2};
     std::u32string const zeros(3, U'\0');

@@ -271,6 +271,77 @@ TEST(HeaderLines, AgreeWithThePlainReadingOfRandomTexts) {
     EXPECT_GT(decodedTexts, 10000);
 }
 
+// Headers of few and many other names, written in any case, beside a list of them: found, set and deleted, while others
+// share the fragment or not.
+class ChangedNames : public testing::TestWithParam<int> {
+protected:
+    std::mt19937 random{7};
+    Plain plain;
+
+    std::string anyName() { return "x-Name" + std::to_string(random() % static_cast<unsigned>(GetParam())); }
+    std::string inAnyCase(std::string name) {
+        for (char &ch : name) ch = static_cast<char>(random() % 2 ? std::toupper(ch) : std::tolower(ch));
+        return name;
+    }
+    std::string anyLine() {
+        constexpr Text forms[] = {": a\r\n", ":a\r\n", " : a\r\n", ":\r\n a\r\n b\r\n", "\r\n : a\r\n"};
+        return inAnyCase(anyName()) + std::string(forms[random() % std::size(forms)]);
+    }
+    auto find(Text name) {
+        return std::find_if(plain.headers.begin(), plain.headers.end(),
+                            [wanted = normalName(name)](auto const &h) { return h.first == wanted; });
+    }
+    void change(co::Ref<struct quillMessageFragment> &frag) {
+        std::string const name = inAnyCase(anyName());
+        auto const there = find(name);
+        bool const has = there != plain.headers.end();
+        ASSERT_EQ(quillMessageFragmentHasHeaderCstr(frag.get(), name.c_str(), -1), has);
+        ASSERT_EQ(quillMessageFragmentHasHeader(frag.get(), str(name)), has);
+        auto const header = own(quillMessageFragmentHeaderCstr(frag.get(), name.c_str(), -1));
+        ASSERT_EQ(static_cast<bool>(header), has);
+        if (has) {
+            EXPECT_EQ(utf8(own(quillMessageHeaderName(header.get())).get()), there->first);
+            EXPECT_EQ(quillMessageHeaderLinesLength(header.get()), static_cast<int64_t>(there->second.size()));
+        }
+        if (random() % 2) {
+            quillMessageFragmentDelHeaderCstr(frag.address(), name.c_str(), -1);
+            if (has) plain.headers.erase(there);
+            return;
+        }
+        auto set = own(quillMessageHeaderCreateCstr(name.c_str(), -1));
+        quillMessageHeaderAppendLineCstr(set.address(), "set", -1);
+        quillMessageFragmentSetHeader(frag.address(), set.get());
+        if (has)
+            there->second = {"set"};
+        else
+            plain.headers.push_back({normalName(name), {"set"}});
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(FewAndMany, ChangedNames, testing::Values(3, 8, 12, 40, 300));
+
+TEST_P(ChangedNames, AreThoseOfAPlainList) {
+    for (int round = 0; round < 40; round++) {
+        std::string text = std::string(bye) + "\r\n";
+        for (int i = 0; i < GetParam(); i++) text += anyLine();
+        plain = {};
+        ASSERT_TRUE(plain.read(text, bye));
+        auto frag = own(quillMessageFragmentTryDecode(buffer(text).get()));
+        ASSERT_EQ(encoded(frag.get()), plain.encoded());
+        for (int i = 0; i < GetParam(); i++) {
+            bool const isShared = random() % 2;
+            co::Ref<struct quillMessageFragment> const other(isShared ? co::retained(frag.get()) : nullptr);
+            std::string const before = plain.encoded();
+            change(frag);
+            if (HasFatalFailure()) return;
+            if (isShared) {
+                ASSERT_EQ(encoded(other.get()), before);
+            }
+            ASSERT_EQ(encoded(frag.get()), plain.encoded());
+        }
+    }
+}
+
 // Names that are known, whatever stands behind them.
 
 struct Match {
