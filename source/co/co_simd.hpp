@@ -35,14 +35,21 @@ public:
     Places(std::string_view whole, char wantedByte) : text(whole), wanted(wantedByte) {}
 
     size_t next() {
-        while (at < text.size() && text[at] != wanted) at++;
-        return at < text.size() ? at++ : at;
+        for (; at < text.size(); at++) {
+            seen |= static_cast<uint8_t>(text[at]);
+            if (text[at] == wanted) return at++;
+        }
+        return at;
     }
+
+    // Whether all that was searched is US-ASCII: what stands before the last place, and what may have been searched with it.
+    bool sawAsciiAlone() const { return seen < 0x80; }
 
 private:
     std::string_view text;
     char wanted;
     size_t at = 0;
+    unsigned seen = 0;
 };
 
 // How many leading characters are US-ASCII.
@@ -127,8 +134,12 @@ inline size_t first(Mask mask) { return static_cast<size_t>(std::countr_zero(mas
 inline constexpr size_t stepSize = 4 * blockSize;
 using StepMask = uint64_t;
 
-[[gnu::always_inline]] inline StepMask equalInStep(char const *at, char wanted) {
-    auto const part = [=](size_t i) { return StepMask{highBits(equal(load(at + i), wanted))} << i; };
+[[gnu::always_inline]] inline StepMask equalInStep(char const *at, char wanted, Block *seen) {
+    auto const part = [=](size_t i) {
+        Block const block = load(at + i);
+        *seen = either(*seen, block);
+        return StepMask{highBits(equal(block, wanted))} << i;
+    };
     return (part(0) | part(16)) | (part(32) | part(48));
 }
 inline size_t first(StepMask mask) { return static_cast<size_t>(std::countr_zero(mask)); }
@@ -185,7 +196,10 @@ inline size_t first(Mask mask) { return static_cast<size_t>(std::countr_zero(mas
 inline constexpr size_t stepSize = blockSize;
 using StepMask = Mask;
 
-inline StepMask equalInStep(char const *at, char wanted) { return highBits(equal(load(at), wanted)); }
+inline StepMask equalInStep(char const *at, char wanted, Block *seen) {
+    *seen = either(*seen, load(at));
+    return highBits(equal(load(at), wanted));
+}
 inline StepMask withoutFirst(StepMask mask) { return mask & ~(StepMask{0xF} << std::countr_zero(mask)); }
 inline StepMask behind(StepMask mask, size_t places) { return mask >> (4 * places); }
 
@@ -244,28 +258,31 @@ public:
         return place;
     }
 
+    bool sawAsciiAlone() const { return !highBits(seen); } // where what is wanted is one of its characters
+
 private:
     // The last step overlaps the one before it.
     [[gnu::always_inline]] StepMask searchStep() {
         char const *const step = text.data() + searched;
         size_t const left = text.size() - searched;
         searched += stepSize;
-        if (left >= stepSize) return equalInStep(step, wanted);
-        if (text.size() < stepSize) return equalInShort(text, wanted);
-        return behind(equalInStep(step + left - stepSize, wanted), stepSize - left);
+        if (left >= stepSize) return equalInStep(step, wanted, &seen);
+        if (text.size() < stepSize) return equalInShort(text, wanted, &seen);
+        return behind(equalInStep(step + left - stepSize, wanted, &seen), stepSize - left);
     }
 
-    [[gnu::noinline]] static StepMask equalInShort(std::string_view text, char wanted) {
+    [[gnu::noinline]] static StepMask equalInShort(std::string_view text, char wanted, Block *seen) {
         char step[stepSize];
-        std::memset(step, ~wanted, sizeof step);
+        std::memset(step, wanted ^ 1, sizeof step);
         std::memcpy(step, text.data(), text.size());
-        return equalInStep(step, wanted);
+        return equalInStep(step, wanted, seen);
     }
 
     std::string_view const text;
     char const wanted;
     size_t searched = 0;
     StepMask mask = 0; // of the places in the step that was searched last
+    Block seen{};      // the bits of all bytes that were searched
 };
 
 inline size_t uriRun(std::u32string_view text) {

@@ -64,27 +64,6 @@ Utf8Count countUtf8(std::string_view bytes) {
     }
 }
 
-// A leading block, so that no character is cut in two.
-static std::string_view leadingBlock(std::string_view bytes) {
-    if (bytes.size() <= copyBlock) return bytes;
-    size_t size = copyBlock;
-    while (size > copyBlock - 3 && (static_cast<uint8_t>(bytes[size]) & 0xC0) == 0x80) size--;
-    return bytes.substr(0, size);
-}
-
-Utf8Count copyLongUtf8(char *to, std::string_view bytes) {
-    Utf8Count all{true, 0};
-    while (!bytes.empty()) {
-        std::string_view const block = leadingBlock(bytes);
-        Utf8Count const count = copyUtf8(to, block);
-        if (!count.valid) return count;
-        all.chars += count.chars;
-        to += block.size();
-        bytes.remove_prefix(block.size());
-    }
-    return all;
-}
-
 coChar *widenAscii(coChar *chars, std::string_view ascii) {
     simd::widen(chars, ascii);
     return chars + ascii.size();

@@ -1,7 +1,6 @@
 // UTF-8, both ways (RFC 3629): no overlong forms, no surrogates, nothing above U+10FFFF.
 #pragma once
 
-#include <algorithm>
 #include <co/co_types.h>
 #include <string_view>
 
@@ -14,16 +13,6 @@ struct Utf8Count {
 
 // Whether the bytes are UTF-8, and how many code points they are.
 Utf8Count countUtf8(std::string_view bytes);
-
-// The same, and copies them to `to`, a long text block by block, so that it comes from memory once. What is copied of an
-// invalid text is undefined.
-inline constexpr size_t copyBlock = 16 << 10; // well within any processor's first cache
-Utf8Count copyLongUtf8(char *to, std::string_view bytes);
-inline Utf8Count copyUtf8(char *to, std::string_view bytes) {
-    if (bytes.size() > copyBlock) return copyLongUtf8(to, bytes);
-    std::copy(bytes.begin(), bytes.end(), to);
-    return countUtf8(bytes);
-}
 
 // Writes the code points of valid UTF-8 to `chars`; returns the end of what it wrote.
 coChar *widenUtf8(coChar *chars, std::string_view valid);

@@ -28,8 +28,16 @@ static int64_t sizeOfWireText(coObj const *obj) {
     return sizeOfWireText(text->lineCount, text->byteCount);
 }
 
+static void freeKept(coObj *obj) {
+    auto *text = static_cast<WireText *>(obj);
+    co::release(text->buffer);
+    text->buffer = co::released<coBuffer>();
+}
+
 constinit coSort const WireText::sort{
     &co___sort_CO_SORT, &quill___module, "QUILL_WIRE_TEXT", nullptr, nullptr, nullptr, 0, sizeOfWireText};
+constinit coSort const WireText::sortOfKept{
+    &co___sort_CO_SORT, &quill___module, "QUILL_WIRE_TEXT", freeKept, nullptr, nullptr, 0, sizeOfWireText};
 
 namespace {
 
@@ -329,7 +337,7 @@ public:
         bool folded = false;
         for (char const *at = start; at < text.end();) {
             char const *const end = takeLine(returns, &at);
-            if (start == end && untilEmptyLine) return finish(start, at);
+            if (start == end && untilEmptyLine) return finish(start, at, returns.sawAsciiAlone());
             bool const goesOn = at < text.end() && isBlank(*at);
             if (folded || goesOn || !keepUsual(start, end)) {
                 while (start < end && isBlank(*start)) start++;
@@ -340,17 +348,19 @@ public:
             }
             start = at;
         }
-        return finish(text.end(), text.end());
+        return finish(text.end(), text.end(), returns.sawAsciiAlone());
     }
 
     Bytes headers; // what was split
     Bytes rest;    // behind the empty line
     LineIndex index;
     int64_t encodedLength = 0;
+    bool isAscii = false;     // all of it; not known where what follows is none
     bool hasOddNames = false; // some are not in their normal form, known ones apart
 
 private:
-    bool finish(char const *end, char const *next) {
+    bool finish(char const *end, char const *next, bool sawAsciiAlone) {
+        isAscii = sawAsciiAlone;
         headers = Bytes(text.begin(), end);
         rest = Bytes(next, text.end());
         return headers.size() < noLine;
@@ -502,38 +512,70 @@ private:
 
 // Puts names that are none of the known ones into their normal form, so that they can be compared and written as they stand.
 static void normalizeNames(HeaderSet const *set, WireText *text) {
+    char *const bytes = text->ownBytes();
     for (int64_t i = 0; i < set->used; i++) {
         HeaderEntry const &entry = set->entries[i];
         if (entry.known >= 0) continue;
-        char *const name = text->bytes() + entry.name;
+        char *const name = bytes + entry.name;
         normalizeFieldName(name, entry.nameLength);
         for (uint32_t k = entry.first; k != noLine; k = text->lines()[k].next) {
             WireLine &line = text->lines()[k];
             if (!line.plain || line.canonical) continue;
-            if (k != entry.first) std::memcpy(text->bytes() + line.start, name, entry.nameLength);
+            if (k != entry.first) std::memcpy(bytes + line.start, name, entry.nameLength);
             line.canonical = true;
         }
     }
 }
 
-bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine) {
+static WireText *makeWireText(Splitter const &splitter, int64_t byteCount, coSort const *sort) {
+    LineIndex const &index = splitter.index;
+    auto *text = static_cast<WireText *>(co::allocateObject(sizeOfWireText(index.count, byteCount), sort));
+    text->lineCount = index.count;
+    text->byteCount = byteCount;
+    text->encodedLength = splitter.encodedLength;
+    text->ascii = splitter.isAscii;
+    std::copy(index.lines, index.lines + index.count, text->lines());
+    return text;
+}
+
+static WireText *makeCopy(Splitter const &splitter) {
+    Bytes const lines = splitter.headers;
+    WireText *text = makeWireText(splitter, static_cast<int64_t>(lines.size()), &WireText::sort);
+    std::copy(lines.begin(), lines.end(), text->ownBytes());
+    text->bytes = text->ownBytes();
+    text->buffer = nullptr;
+    return text;
+}
+
+// The buffer is shared from then on, so that nobody changes it.
+[[gnu::noinline]] static WireText *makeKept(Splitter const &splitter, coBuffer const *buffer) {
+    WireText *text = makeWireText(splitter, 0, &WireText::sortOfKept);
+    text->bytes = splitter.headers.data();
+    text->buffer = co::retained(buffer);
+    return text;
+}
+
+// Whether the lines are not to be copied: they are many, most of what the buffer holds, and stand as they are kept.
+static bool canKeep(Splitter const &splitter, coBuffer const *buffer) {
+    size_t const size = splitter.headers.size();
+    constexpr size_t many = 16 << 10;
+    return size > many && buffer && !splitter.hasOddNames && buffer->capacity < static_cast<int64_t>(2 * size);
+}
+
+static bool readUtf8(Splitter *splitter) {
+    co::Utf8Count const chars = co::countUtf8(splitter->headers);
+    splitter->isAscii = static_cast<size_t>(chars.chars) == splitter->headers.size();
+    return chars.valid;
+}
+
+bool HeaderTable::tryDecode(Bytes *rest, bool untilEmptyLine, coBuffer const *buffer) {
     co::Ref<HeaderSet> set(makeHeaderSet(usualEntries));
     Splitter splitter(*rest, untilEmptyLine, set.get());
     if (!splitter.split()) return false;
-    Bytes const lines = splitter.headers;
-    LineIndex const &index = splitter.index;
-    auto const byteCount = static_cast<int64_t>(lines.size());
-    auto *text = static_cast<WireText *>(co::allocateObject(sizeOfWireText(index.count, byteCount), &WireText::sort));
-    set->text = text;
-    text->lineCount = index.count;
-    text->byteCount = byteCount;
-    co::Utf8Count const chars = co::copyUtf8(text->bytes(), lines);
-    if (!chars.valid) return false;
-    text->ascii = chars.chars == byteCount;
-    text->encodedLength = splitter.encodedLength;
-    std::copy(index.lines, index.lines + index.count, text->lines());
-    set->bytes = text->bytes();
-    if (splitter.hasOddNames) normalizeNames(set.get(), text);
+    if (!splitter.isAscii && !readUtf8(&splitter)) return false;
+    set->text = canKeep(splitter, buffer) ? makeKept(splitter, buffer) : makeCopy(splitter);
+    set->bytes = set->text->bytes;
+    if (splitter.hasOddNames) normalizeNames(set.get(), set->text);
     headers.adopt(set.take());
     *rest = splitter.rest;
     return true;
@@ -728,7 +770,7 @@ public:
     void writeInstead(HeaderEntry const &entry, Bytes whole) {
         if (!entry.header) {
             WireLine const &line = text->lines()[entry.first];
-            if (line.canonical && Bytes(text->bytes() + line.start, endOf(line) - line.start) == whole)
+            if (line.canonical && Bytes(text->bytes + line.start, endOf(line) - line.start) == whole)
                 return addToRun(line.start, endOf(line));
         }
         write(whole);
@@ -759,7 +801,7 @@ private:
 
     void flush() {
         if (runEnd == nowhere) return;
-        at = co::put(co::put(at, Bytes(text->bytes() + runStart, runEnd - runStart)), "\r\n");
+        at = co::put(co::put(at, Bytes(text->bytes + runStart, runEnd - runStart)), "\r\n");
         runEnd = nowhere;
     }
 
@@ -789,7 +831,7 @@ private:
         else if (entry.header)
             at = co::narrowAscii(at, entry.header->name->view());
         else
-            at = co::put(at, Bytes(text->bytes() + entry.name, entry.nameLength));
+            at = co::put(at, Bytes(text->bytes + entry.name, entry.nameLength));
     }
 
     void putJoined(Bytes folded) {

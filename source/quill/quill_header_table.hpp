@@ -39,23 +39,25 @@ struct WireLine {
 
 inline constexpr uint32_t noLine = UINT32_MAX;
 
-// The received header lines, checked as UTF-8; the lines' index follows, then the bytes. Names that are none of the known
-// ones are in their normal form. Never changed.
+// The received header lines, checked as UTF-8; the lines' index follows, then the bytes, unless they are those of the buffer
+// that they came in. Names that are none of the known ones are in their normal form. Never changed.
 struct WireText : coObj {
     static coSort const sort;
+    static coSort const sortOfKept; // with a buffer
+    char const *bytes;
+    coBuffer *buffer;
     int64_t lineCount;
-    int64_t byteCount;
+    int64_t byteCount;     // of those that follow the index
     int64_t encodedLength; // of all lines as they are written, at most
     bool ascii;            // every byte
 
-    coChar *widen(coChar *chars, std::string_view bytes) const {
-        return ascii ? co::widenAscii(chars, bytes) : co::widenUtf8(chars, bytes);
+    coChar *widen(coChar *chars, std::string_view piece) const {
+        return ascii ? co::widenAscii(chars, piece) : co::widenUtf8(chars, piece);
     }
     WireLine *lines() { return reinterpret_cast<WireLine *>(this + 1); }
     WireLine const *lines() const { return reinterpret_cast<WireLine const *>(this + 1); }
-    char *bytes() { return reinterpret_cast<char *>(lines() + lineCount); }
-    char const *bytes() const { return reinterpret_cast<char const *>(lines() + lineCount); }
-    std::string_view valueOf(WireLine const &line) const { return {bytes() + line.value, line.length}; }
+    char *ownBytes() { return reinterpret_cast<char *>(lines() + lineCount); }
+    std::string_view valueOf(WireLine const &line) const { return {bytes + line.value, line.length}; }
 };
 
 class HeaderLines; // of a raw header
@@ -81,8 +83,8 @@ public:
     static constexpr uint64_t references = 1;
 
     // Reads header lines into an empty table: all of them, or those up to an empty line. What follows that line stays. False
-    // where a line is none of a header, or not UTF-8.
-    bool tryDecode(std::string_view *rest, bool untilEmptyLine);
+    // where a line is none of a header, or not UTF-8. Many bytes are kept in the buffer that they are in, where it is given.
+    bool tryDecode(std::string_view *rest, bool untilEmptyLine, coBuffer const *buffer);
 
     bool has(FieldName name) const { return find(name) != nullptr; }
     struct quillMessageHeader *header(FieldName name) const; // owned, or null

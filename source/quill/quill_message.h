@@ -140,7 +140,8 @@ QUILL_API void quillMessageDelBody(struct quillMessage **msg);
 /// @name Wire form
 /// @{
 QUILL_API struct coBuffer *quillMessageEncode(struct quillMessage const *msg);
-/// Null when the bytes are no message, or headers without a start line.
+/// Null when the bytes are no message, or headers without a start line. The buffer is left as it is; one of more than 16 kB
+/// may be shared with the message from then on.
 QUILL_API struct quillMessage *quillMessageTryDecode(struct coBuffer const *buf);
 /// @}
 

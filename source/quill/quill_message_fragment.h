@@ -171,6 +171,7 @@ QUILL_API void quillMessageFragmentDelBody(struct quillMessageFragment **frag);
 /// A whole message: start line (optional), headers, empty line, body. Null when the bytes are no message: text that is
 /// not UTF-8, a bad status line, request IRI or version, a header line without a name or colon, a Content-Length that is
 /// no decimal number or says more than there is; headers of 4 GiB. Bytes beyond the Content-Length are dropped.
+/// The buffer is left as it is; one of more than 16 kB may be shared with the fragment from then on.
 QUILL_API struct quillMessageFragment *quillMessageFragmentTryDecode(struct coBuffer const *buf);
 /// Start line and headers alone. @p contentLength may be null; it receives the value of the last Content-Length line, or
 /// -1 where there is none, and null comes back when that is no decimal number.

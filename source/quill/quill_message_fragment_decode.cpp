@@ -134,8 +134,9 @@ bool readContentLength(quillMessageFragment const *frag, int64_t *contentLength)
     return received.empty() ? readOtherContentLength(frag, contentLength) : isLength(received, contentLength);
 }
 
-// Start line and headers: all that is given, or up to the empty line. What follows that stays.
-quillMessageFragment *tryDecode(Bytes *rest, bool untilEmptyLine, int64_t *contentLength) {
+// Start line and headers: all that is given, or up to the empty line. What follows that stays. The buffer that it is in is
+// null where that goes on to change.
+quillMessageFragment *tryDecode(Bytes *rest, bool untilEmptyLine, coBuffer const *buffer, int64_t *contentLength) {
     size_t const end = co::findLineEnd(*rest);
     Bytes const firstLine = rest->substr(0, end);
     if (!co::countUtf8(firstLine).valid) return nullptr;
@@ -144,7 +145,7 @@ quillMessageFragment *tryDecode(Bytes *rest, bool untilEmptyLine, int64_t *conte
     if (startLine == StartLine::broken) return nullptr;
     if (startLine == StartLine::decoded || firstLine.empty()) // the empty line that ends headers is not the first one
         rest->remove_prefix(std::min(end + 2, rest->size()));
-    if (!frag->headers.tryDecode(rest, untilEmptyLine)) return nullptr;
+    if (!frag->headers.tryDecode(rest, untilEmptyLine, buffer)) return nullptr;
     if (contentLength && !readContentLength(frag.get(), contentLength)) return nullptr;
     return frag.take();
 }
@@ -153,7 +154,7 @@ quillMessageFragment *tryDecode(Bytes *rest, bool untilEmptyLine, int64_t *conte
 
 struct quillMessageFragment *quill::tryDecodeHeaders(Bytes bytes, int64_t *contentLength) {
     if (contentLength) *contentLength = -1;
-    return tryDecode(&bytes, false, contentLength);
+    return tryDecode(&bytes, false, nullptr, contentLength);
 }
 
 struct quillMessageFragment *quillMessageFragmentTryDecodeHeaders(struct coBuffer const *buf, int64_t *contentLength) {
@@ -165,7 +166,7 @@ struct quillMessageFragment *quillMessageFragmentTryDecode(struct coBuffer const
     CO_ASSERT_GIVEN(buf);
     Bytes body = buf->view(); // behind the headers
     int64_t contentLength = -1;
-    co::Ref<quillMessageFragment> frag(tryDecode(&body, true, &contentLength));
+    co::Ref<quillMessageFragment> frag(tryDecode(&body, true, buf, &contentLength));
     if (!frag) return nullptr;
     auto const available = static_cast<int64_t>(body.size());
     if (contentLength > available) return nullptr;

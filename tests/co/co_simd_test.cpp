@@ -27,6 +27,13 @@ private:
     size_t size;
 };
 
+template <class Finder> bool seesAsciiAlone(std::string_view text, char wanted) {
+    Finder finder(text, wanted);
+    while (finder.next() < text.size()) {
+    }
+    return finder.sawAsciiAlone();
+}
+
 std::vector<size_t> places(auto finder) {
     std::vector<size_t> all;
     do all.push_back(finder.next());
@@ -38,6 +45,10 @@ void expectSameOfBytes(std::string_view text) {
     for (char wanted : {'\r', ':', '\0', '\x7F', '\x80', '\xFF'}) {
         ASSERT_EQ(co::simd::find(text, wanted), co::scalar::find(text, wanted));
         ASSERT_EQ(places(co::simd::Places(text, wanted)), places(co::scalar::Places(text, wanted)));
+        if (static_cast<unsigned char>(wanted) >= 0x80) continue;
+        bool const isAscii = co::scalar::asciiRun(text) == text.size();
+        ASSERT_EQ(seesAsciiAlone<co::simd::Places>(text, wanted), isAscii);
+        ASSERT_EQ(seesAsciiAlone<co::scalar::Places>(text, wanted), isAscii);
     }
     ASSERT_EQ(co::simd::asciiRun(text), co::scalar::asciiRun(text));
     size_t const lineEnd = text.find("\r\n");
@@ -120,8 +131,10 @@ TEST(Simd, FindsOneByteAtEachPlaceOfEachLength) {
             ASSERT_EQ(colons.next(), at) << size;
             ASSERT_EQ(colons.next(), size);
             ASSERT_EQ(colons.next(), size) << "still";
+            ASSERT_TRUE(colons.sawAsciiAlone());
             text[at] = '\x80';
             ASSERT_EQ(co::simd::asciiRun(text.view()), at) << size;
+            ASSERT_FALSE(seesAsciiAlone<co::simd::Places>(text.view(), ':')) << size;
         }
 }
 

@@ -58,21 +58,11 @@ std::u32string widenAny(std::string_view bytes) {
     return chars;
 }
 
-void expectCopied(std::string_view bytes, co::Utf8Count count) {
-    std::string copy(bytes.size(), '\0');
-    co::Utf8Count const copied = co::copyUtf8(copy.data(), bytes);
-    ASSERT_EQ(copied.valid, count.valid);
-    if (!count.valid) return;
-    ASSERT_EQ(copied.chars, count.chars);
-    ASSERT_EQ(copy, bytes);
-}
-
 void expectAsOracle(std::string_view bytes) {
     std::u32string expected;
     bool const valid = oracle(bytes, &expected);
     co::Utf8Count const count = co::countUtf8(bytes);
     ASSERT_EQ(count.valid, valid) << testing::PrintToString(std::string(bytes));
-    expectCopied(bytes, count);
     if (!valid) return;
     ASSERT_EQ(count.chars, static_cast<int64_t>(expected.size()));
     std::u32string chars(expected.size(), U'\0');
@@ -201,25 +191,6 @@ TEST(Utf8, AgreesWithIconvOnRandomTexts) {
         expectAsOracle(randomBytes(random, round % 2));
         if (HasFatalFailure()) return;
     }
-}
-
-// Long texts are copied in blocks, which must not cut a character: what lies about their ends is whole, cut or wrong.
-TEST(Utf8, CopiesLongTexts) {
-    constexpr size_t block = co::copyBlock;
-    for (std::string_view piece : {"a", "é", "€", "\U0001F600", "\xC3", "\xE2\x82", "\xF0\x9F\x98", "\x80",
-                                   "\x80\x80\x80", "\x80\x80\x80\x80", "\xF0\x9F\x98\x80\x80", "\xED\xA0\x80"})
-        for (size_t before = block - 8; before < block + 2; before++)
-            for (size_t behind : {size_t{0}, size_t{1}, size_t{10}, block}) {
-                std::string text(before, 'a');
-                text += piece;
-                text += std::string(behind, 'b');
-                expectCopied(text, co::countUtf8(text));
-                if (HasFatalFailure()) return;
-            }
-    std::string euros;
-    for (size_t i = 0; i < block; i++) euros += "€";
-    for (size_t shift = 0; shift < 3; shift++)
-        expectCopied(std::string(shift, 'a') + euros, {true, int64_t(block + shift)});
 }
 
 // A wrong byte at each place of a long text, so that no way of reading many bytes at once overlooks one.

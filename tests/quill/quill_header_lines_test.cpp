@@ -271,6 +271,44 @@ TEST(HeaderLines, AgreeWithThePlainReadingOfRandomTexts) {
     EXPECT_GT(decodedTexts, 10000);
 }
 
+// Many header bytes stay in the buffer that they came in, unless it holds much else or a name is to be put into its normal
+// form. The buffer is shared then: who changes it has a copy.
+TEST(HeaderLines, StayInTheirBufferWhereTheyAreMany) {
+    struct Row {
+        size_t size; // of a value
+        Text name;
+        Text character;
+        size_t bodySize;
+        bool kept;
+    };
+    constexpr size_t many = 16 << 10;
+    for (Row const &row : {Row{many, "Subject", "a", 0, true}, Row{many, "X-Foo", "a", 0, true},
+                           Row{many, "v", "a", 0, true}, Row{many, "SUBJECT", "a", 0, true},
+                           Row{many, "Subject", "\xC3\xA4", 0, true}, Row{many, "Subject", "a", many / 2, true},
+                           Row{many, "Subject", "a", many + 1000, false}, Row{many, "X-foo", "a", 0, false},
+                           Row{many - 500, "Subject", "a", 0, false}, Row{1, "Subject", "a", 0, false}}) {
+        std::string text = std::string(bye) + "\r\n" + std::string(row.name) + ": ";
+        while (text.size() < row.size) text += row.character;
+        text += "\r\nv: SIP/2.0/UDP a\r\nX-Bar:\r\n b\r\n\r\n" + std::string(row.bodySize, '\xFF');
+        expectAsPlain(text, bye);
+        if (HasFatalFailure()) return;
+        co::Ref<coBuffer> bytes(buffer(text));
+        auto const frag = own(quillMessageFragmentTryDecode(bytes.get()));
+        ASSERT_TRUE(frag);
+        EXPECT_EQ(count(bytes.get()), row.kept ? 2 : 1) << row.name << " " << row.size << " " << row.bodySize;
+        std::string const before = encoded(frag.get());
+        coBufferDelLeading(bytes.address(), static_cast<int64_t>(text.size()));
+        for (char ch : text) coBufferAppendByte(bytes.address(), static_cast<uint8_t>(ch ^ 1));
+        EXPECT_EQ(encoded(frag.get()), before);
+        bytes.reset(nullptr);
+        EXPECT_EQ(encoded(frag.get()), before);
+    }
+    std::string wrong = std::string(bye) + "\r\nSubject: " + std::string(2 * many, 'a') + "\xC3\r\n\r\n";
+    auto const bytes = buffer(wrong);
+    EXPECT_FALSE(own(quillMessageFragmentTryDecode(bytes.get())));
+    EXPECT_EQ(count(bytes.get()), 1) << "it is given up again";
+}
+
 // Headers of few and many other names, written in any case, beside a list of them: found, set and deleted, while others
 // share the fragment or not.
 class ChangedNames : public testing::TestWithParam<int> {
