@@ -20,6 +20,13 @@
 #include <arm_neon.h>
 #endif
 
+namespace co {
+
+// What ends a header part: the end of its last line, and the empty line.
+inline constexpr std::string_view emptyLine = "\r\n\r\n";
+
+} // namespace co
+
 namespace co::scalar {
 
 // The place of the first `wanted`, or the text's size. Apart, so that its loop is not unrolled wherever it is used.
@@ -51,6 +58,18 @@ private:
     size_t at = 0;
     unsigned seen = 0;
 };
+
+inline bool emptyLineEndsAt(std::string_view text, size_t last) {
+    constexpr size_t before = emptyLine.size() - 1;
+    return last >= before && std::memcmp(text.data() + last - before, emptyLine.data(), emptyLine.size()) == 0;
+}
+
+// The place of the first empty line whose last byte is at `from` or behind it, or the text's size.
+inline size_t findEmptyLine(std::string_view text, size_t from) {
+    for (size_t at = from; at < text.size(); at++)
+        if (text[at] == '\n' && emptyLineEndsAt(text, at)) return at + 1 - emptyLine.size();
+    return text.size();
+}
 
 // How many leading characters are US-ASCII.
 inline size_t asciiRun(std::string_view text) {
@@ -145,6 +164,7 @@ using StepMask = uint64_t;
 inline size_t first(StepMask mask) { return static_cast<size_t>(std::countr_zero(mask)); }
 inline StepMask withoutFirst(StepMask mask) { return mask & (mask - 1); }
 inline StepMask behind(StepMask mask, size_t places) { return mask >> places; } // from a place in the step on
+inline StepMask ahead(StepMask mask, size_t places) { return mask << places; }
 
 inline Block equalChars(Block fourChars, coChar wanted) {
     return _mm_cmpeq_epi32(fourChars, _mm_set1_epi32(static_cast<int>(wanted)));
@@ -202,6 +222,7 @@ inline StepMask equalInStep(char const *at, char wanted, Block *seen) {
 }
 inline StepMask withoutFirst(StepMask mask) { return mask & ~(StepMask{0xF} << std::countr_zero(mask)); }
 inline StepMask behind(StepMask mask, size_t places) { return mask >> (4 * places); }
+inline StepMask ahead(StepMask mask, size_t places) { return mask << (4 * places); }
 
 inline Block equalChars(Block fourChars, coChar wanted) {
     return vreinterpretq_u8_u32(vceqq_u32(vreinterpretq_u32_u8(fourChars), vdupq_n_u32(wanted)));
@@ -284,6 +305,35 @@ private:
     StepMask mask = 0; // of the places in the step that was searched last
     Block seen{};      // the bits of all bytes that were searched
 };
+
+// The places of a step where an empty line may end: of LFs that stand two places behind another one, and of those in the
+// first two places, of which that is not known.
+[[gnu::always_inline]] inline StepMask emptyLineEnds(char const *step) {
+    StepMask const feeds = equalInStep(step, '\n');
+    StepMask const firstTwo = ~ahead(~StepMask{0}, 2);
+    return feeds & (ahead(feeds, 2) | firstTwo);
+}
+
+// The first of these that is one, or the text's size.
+[[gnu::always_inline]] inline size_t firstEmptyLine(std::string_view text, size_t step, StepMask ends) {
+    for (; ends != 0; ends = withoutFirst(ends)) {
+        size_t const last = step + first(ends);
+        if (scalar::emptyLineEndsAt(text, last)) return last + 1 - emptyLine.size();
+    }
+    return text.size();
+}
+
+// The last step overlaps the one before it.
+inline size_t findEmptyLine(std::string_view text, size_t from) {
+    for (; text.size() - from >= stepSize; from += stepSize) {
+        size_t const place = firstEmptyLine(text, from, emptyLineEnds(text.data() + from));
+        if (place < text.size()) return place;
+    }
+    size_t const left = text.size() - from;
+    if (left < blockSize || text.size() < stepSize) return scalar::findEmptyLine(text, from);
+    StepMask const ends = emptyLineEnds(text.data() + text.size() - stepSize);
+    return firstEmptyLine(text, from, behind(ends, stepSize - left));
+}
 
 inline size_t uriRun(std::u32string_view text) {
     if (text.size() < blockSize) return scalar::uriRun(text);

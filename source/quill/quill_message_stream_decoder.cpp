@@ -6,7 +6,6 @@
 
 #define CO_UNIT "source/quill/quill_message_stream_decoder"
 
-#include <algorithm>
 #include <co/co_buffer.hpp>
 #include <co/co_simd.hpp>
 #include <quill/quill_family.hpp>
@@ -76,41 +75,27 @@ WRITE(Outer, (int64_t offset, int64_t count), (offset, count))
 // Reading.
 
 // CR LF before a message keeps a connection alive and says nothing (RFC 3261, 7.5; RFC 5626, 3.5.1).
-static void skipKeepAlives(quillMessageStreamDecoder *decoder) {
+[[gnu::noinline]] static void skipKeepAlives(quillMessageStreamDecoder *decoder) {
     std::string_view const bytes = decoder->buffer->view();
     size_t count = 0;
     while (bytes.substr(count, 2) == "\r\n") count += 2;
     if (count > 0) coBufferDelLeading(decoder->buffer.address(), static_cast<int64_t>(count));
 }
 
-constexpr std::string_view endOfHeaders = "\r\n\r\n"; // of the last line, and the empty one
-
-// From LF to LF, the last byte of it, so that each write's bytes are searched alone: those of two writes at once would have
-// to wait for both to be in the cache.
-template <class Places> static int64_t findEndOfHeaders(std::string_view bytes, size_t start) {
-    Places ends(bytes.substr(start), '\n');
-    for (size_t at = start + ends.next(); at < bytes.size(); at = start + ends.next()) {
-        size_t const found = at + 1 - endOfHeaders.size();
-        if (bytes.substr(found, endOfHeaders.size()) == endOfHeaders) return static_cast<int64_t>(found);
-    }
+// Where the last line of the headers ends, looked for from where the last search stopped; -1 when the empty line behind it
+// is not there yet.
+static int64_t findEndOfHeaders(quillMessageStreamDecoder *decoder) {
+    std::string_view const bytes = decoder->buffer->view();
+    if (bytes.size() < co::emptyLine.size()) return -1;
+    size_t const end = co::simd::findEmptyLine(bytes, static_cast<size_t>(decoder->offset.get()));
+    if (end < bytes.size()) return static_cast<int64_t>(end);
+    decoder->offset.set(decoder->buffer->length);
     return -1;
 }
 
-// The end of the headers, looked for from where the last search ended; -1 when it is not there yet. Few bytes make no
-// block.
-static int64_t findEndOfHeaders(quillMessageStreamDecoder *decoder) {
-    std::string_view const bytes = decoder->buffer->view();
-    if (bytes.size() < endOfHeaders.size()) return -1;
-    size_t const start = std::max(static_cast<size_t>(decoder->offset.get()), endOfHeaders.size() - 1);
-    bool const isFew = bytes.size() - start < 16;
-    int64_t const end =
-        isFew ? findEndOfHeaders<co::scalar::Places>(bytes, start) : findEndOfHeaders<co::simd::Places>(bytes, start);
-    if (end < 0) decoder->offset.set(decoder->buffer->length);
-    return end;
-}
-
-// Makes the message whose headers end at a place pending; false when they are none of a message on a stream.
-static bool decodePending(quillMessageStreamDecoder *decoder, int64_t end) {
+// Makes the message whose headers end at a place pending; false when they are none of a message on a stream. Apart, so that
+// a read that finds nothing is short.
+[[gnu::noinline]] static bool decodePending(quillMessageStreamDecoder *decoder, int64_t end) {
     int64_t contentLength = -1;
     std::string_view const headers = decoder->buffer->view().substr(0, static_cast<size_t>(end + 2));
     co::Ref<struct quillMessageFragment> const frag(quill::tryDecodeHeaders(headers, &contentLength));
@@ -123,7 +108,7 @@ static bool decodePending(quillMessageStreamDecoder *decoder, int64_t end) {
 }
 
 // The pending message with its body, which has arrived.
-static quillMessage *complete(quillMessageStreamDecoder *decoder) {
+[[gnu::noinline]] static quillMessage *complete(quillMessageStreamDecoder *decoder) {
     int64_t const offset = decoder->offset.get();
     int64_t const contentLength = decoder->contentLength.get();
     co::Ref<coBuffer> const body(coBufferRead(decoder->buffer.get(), offset, contentLength));

@@ -53,6 +53,7 @@ void expectSameOfBytes(std::string_view text) {
     ASSERT_EQ(co::simd::asciiRun(text), co::scalar::asciiRun(text));
     size_t const lineEnd = text.find("\r\n");
     ASSERT_EQ(co::findLineEnd(text), std::min(lineEnd, text.size()));
+    ASSERT_EQ(co::simd::findEmptyLine(text, 0), std::min(text.find("\r\n\r\n"), text.size()));
 }
 
 void expectSameOfChars(std::u32string_view text) {
@@ -148,6 +149,24 @@ TEST(Simd, FindsLineEndsAtEachPlace) {
             ASSERT_EQ(co::findLineEnd(Placed<char>(0, text).view()), size);
             text[at + 1] = '\r'; // LF CR, a CR at the end among them
             ASSERT_EQ(co::findLineEnd(Placed<char>(0, text).view()), size);
+        }
+}
+
+// Wherever the search begins. One that begins behind the empty line's last byte doesn't find it.
+TEST(Simd, FindsAnEmptyLineAtEachPlace) {
+    for (size_t size = 4; size <= longest; size++)
+        for (size_t at = 0; at + 4 <= size; at++) {
+            std::string text(size, '\n');
+            text.replace(at, 4, "\r\n\r\n");
+            Placed<char> const placed(at % alignments, text);
+            for (size_t from : {size_t{0}, at / 2, at, at + 3}) {
+                ASSERT_EQ(co::simd::findEmptyLine(placed.view(), from), at) << size << ' ' << from;
+                ASSERT_EQ(co::scalar::findEmptyLine(placed.view(), from), at) << size << ' ' << from;
+            }
+            ASSERT_EQ(co::simd::findEmptyLine(placed.view(), at + 4), size);
+            ASSERT_EQ(co::scalar::findEmptyLine(placed.view(), at + 4), size);
+            text[at + at % 4] = 'a';
+            ASSERT_EQ(co::simd::findEmptyLine(Placed<char>(0, text).view(), 0), size);
         }
 }
 
