@@ -141,11 +141,6 @@ static int64_t capacityFor(int64_t length, int64_t more) {
     return more == 0 ? length : std::max(length + more, 2 * length + 32);
 }
 
-// Whether so many bytes can be put behind the buffer's end as it is.
-static bool hasSpace(coBuffer const *buffer, int64_t more) {
-    return co::isUnique(buffer) && buffer->capacity - buffer->head - buffer->length >= more;
-}
-
 // Gives the buffer room that it does not have.
 static void makeSpace(coBuffer **reference, int64_t more) {
     coBuffer *buffer = *reference;
@@ -160,27 +155,17 @@ static void makeSpace(coBuffer **reference, int64_t more) {
 }
 
 uint8_t *co::appendSpace(coBuffer **buffer, int64_t more) {
-    if (!hasSpace(*buffer, more)) makeSpace(buffer, more);
+    if (!(*buffer)->hasSpace(more)) makeSpace(buffer, more);
     return (*buffer)->end();
 }
 
-// The bytes may be some of the buffer's own: these are found again, by their offset, where the buffer has moved to. Apart,
-// so that an append that finds room is short.
-[[gnu::noinline]] static uint8_t const *makeSpaceFor(coBuffer **buffer, std::string_view bytes) {
+// The bytes may be some of the buffer's own: these are found again, by their offset, where the buffer has moved to.
+void co::appendWithMoreSpace(coBuffer **buffer, std::string_view bytes) {
     auto const *source = reinterpret_cast<uint8_t const *>(bytes.data());
     auto const offset = reinterpret_cast<uintptr_t>(source) - reinterpret_cast<uintptr_t>((*buffer)->begin());
     bool const own = offset < static_cast<uintptr_t>((*buffer)->length);
     makeSpace(buffer, static_cast<int64_t>(bytes.size()));
-    return own ? (*buffer)->begin() + offset : source;
-}
-
-void co::append(coBuffer **buffer, std::string_view bytes) {
-    auto const *source = reinterpret_cast<uint8_t const *>(bytes.data());
-    auto const count = static_cast<int64_t>(bytes.size());
-    if (!hasSpace(*buffer, count)) source = makeSpaceFor(buffer, bytes);
-    uint8_t *end = (*buffer)->end();
-    (*buffer)->length += count; // first: it need not wait for the copy
-    copyBytes(end, source, count);
+    appendInPlace(*buffer, own ? (*buffer)->view().substr(offset, bytes.size()) : bytes);
 }
 
 void coBufferAppend(struct coBuffer **buffer, struct coBuffer const *other) {
@@ -213,7 +198,7 @@ static void assertCountOfOther(coBuffer const *other, int64_t count) {
 }
 
 static std::string_view part(coBuffer const *buffer, int64_t offset, int64_t count) {
-    return buffer->view().substr(static_cast<size_t>(offset), static_cast<size_t>(count));
+    return {reinterpret_cast<char const *>(buffer->begin() + offset), static_cast<size_t>(count)};
 }
 
 void coBufferAppendInner(struct coBuffer **buffer, struct coBuffer const *other, int64_t offset, int64_t count) {

@@ -16,6 +16,8 @@ struct coBuffer : coObj {
 
     uint8_t const *begin() const { return bytes + head; }
     uint8_t *end() { return bytes + head + length; }
+    // Whether so many bytes can be put behind the end as it is.
+    bool hasSpace(int64_t more) const { return co::isUnique(this) && capacity - head - length >= more; }
     std::string_view view() const { return {reinterpret_cast<char const *>(begin()), static_cast<size_t>(length)}; }
 };
 
@@ -28,12 +30,26 @@ coBuffer *makeBuffer(int64_t capacity);
 
 // Room for `more` bytes behind the buffer's end, which the caller then fills and counts.
 uint8_t *appendSpace(coBuffer **buffer, int64_t more);
-void append(coBuffer **buffer, std::string_view bytes);
-
 // Copies bytes to where there is room for them; returns the end of what it wrote.
 inline uint8_t *put(uint8_t *to, std::string_view bytes) {
     if (!bytes.empty()) std::memcpy(to, bytes.data(), bytes.size());
     return to + bytes.size();
+}
+
+// Where there is room for them.
+inline void appendInPlace(coBuffer *buffer, std::string_view bytes) {
+    uint8_t *end = buffer->end();
+    buffer->length += static_cast<int64_t>(bytes.size()); // first: it need not wait for the copy
+    put(end, bytes);
+}
+
+// Apart, so that an append that finds room is short.
+void appendWithMoreSpace(coBuffer **buffer, std::string_view bytes);
+
+inline void append(coBuffer **buffer, std::string_view bytes) {
+    coBuffer *const target = *buffer;
+    if (!target->hasSpace(static_cast<int64_t>(bytes.size()))) return appendWithMoreSpace(buffer, bytes);
+    appendInPlace(target, bytes);
 }
 
 } // namespace co

@@ -3,6 +3,7 @@
 
 #include "../../bench/workloads.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -34,17 +35,24 @@ static void pass(proxy const *proxy, quillMessage **msg) {
     encode(*msg);
 }
 
-// In pieces, as they come from a network.
-static void passStream(std::string const &bytes) {
-    constexpr size_t pieceSize = 64;
+// In pieces, as they come from a network: each in a buffer of its own, or all in one.
+static void passStream(std::string const &bytes, bool isInOne) {
+    constexpr int64_t pieceSize = 64;
     quillMessageStreamDecoder *decoder = quillMessageStreamDecoderCreate();
-    for (size_t at = 0; at < bytes.size(); at += pieceSize) {
-        coBuffer *piece = bufferOf(bytes.substr(at, pieceSize));
-        quillMessageStreamDecoderWrite(decoder, piece);
-        coBufferRelease(piece);
+    coBuffer *whole = bufferOf(bytes);
+    for (int64_t at = 0; at < std::ssize(bytes); at += pieceSize) {
+        int64_t const size = std::min(pieceSize, std::ssize(bytes) - at);
+        if (isInOne) {
+            quillMessageStreamDecoderWriteInner(decoder, whole, at, size);
+        } else {
+            coBuffer *piece = coBufferRead(whole, at, size);
+            quillMessageStreamDecoderWrite(decoder, piece);
+            coBufferRelease(piece);
+        }
         quillMessage *msg = quillMessageStreamDecoderRead(decoder);
         if (msg) quillMessageRelease(msg);
     }
+    coBufferRelease(whole);
     quillMessageStreamDecoderRelease(decoder);
 }
 
@@ -90,7 +98,7 @@ int main(int count, char **paths) {
             if (round == 0) readTypedHeaders(msg);
             encode(msg);
             pass(&proxy, &msg);
-            passStream(bytes);
+            passStream(bytes, round % 2 == 0);
             quillMessageRelease(msg);
         }
     }
