@@ -309,7 +309,8 @@ private:
 // The places of a step where an empty line may end: of LFs that stand two places behind another one, and of those in the
 // first two places, of which that is not known.
 [[gnu::always_inline]] inline StepMask emptyLineEnds(char const *step) {
-    StepMask const feeds = equalInStep(step, '\n');
+    Block unused{};
+    StepMask const feeds = equalInStep(step, '\n', &unused);
     StepMask const firstTwo = ~ahead(~StepMask{0}, 2);
     return feeds & (ahead(feeds, 2) | firstTwo);
 }

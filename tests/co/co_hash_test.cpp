@@ -40,7 +40,7 @@ TEST(Hash, IsSipHash13) {
 
 TEST(Hash, IgnoresTheCaseOfLettersAlone) {
     co::HashKey const key{1, 2};
-    for (size_t length : {1, 3, 7, 8, 9, 16, 21})
+    for (size_t const length : {1U, 3U, 7U, 8U, 9U, 16U, 21U})
         for (size_t place = 0; place < length; place++)
             for (int ch = 0; ch < 0x80; ch++) {
                 std::string text(length, 'z');

@@ -213,7 +213,7 @@ TEST_P(QuillReadList, HoldsFewAndManyElements) {
 // A raw header that a list wrote has its lines without a vector of them, and keeps the list. It is what one of strings is.
 TEST_P(QuillReadList, WritesRawHeadersLikeThoseOfStrings) {
     std::string const element = list.begins[0] + ";x=\"\xC3\xBC\"";
-    for (size_t n : {1, 3, 50}) {
+    for (size_t const n : {1U, 3U, 50U}) {
         Texts const lines(n, element);
         auto const strings = rawHeader(list.field, lines);
         co::Ref<coObj> hdr(list.decode(strings.get()));
