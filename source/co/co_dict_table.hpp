@@ -42,7 +42,7 @@ public:
 
     // The entry of a key; null when there is none. Good until the table changes.
     Entry const *find(Chars key) const {
-        int64_t const place = placeOf(key, hash(key));
+        int64_t const place = search(key, hash(key)).place;
         return place < 0 ? nullptr : &entries[place];
     }
     Entry const &at(int64_t index) const {
@@ -66,6 +66,12 @@ public:
     int compare(Table const &other) const;
 
 private:
+    // What a search for a key ends with: the place among the entries, or -1, and the slot that says so.
+    struct Found {
+        int64_t place;
+        uint32_t slot;
+    };
+
     bool hashed() const { return capacity > largestUnhashed; }
     int64_t blocks() const { return capacity / blockLength; }
     int64_t slots() const { return capacity * 2; } // at most half of them are taken: short ways to a free one
@@ -81,13 +87,14 @@ private:
     int64_t blockSize() const;
     void freeBlock() const;
     void releaseEntries() const;
-    int64_t placeOf(Chars key, uint32_t hash) const;
+    Found search(Chars key, uint32_t hash) const;
+    uint32_t freeSlot(uint32_t hash) const;
     int64_t placeAt(int64_t index) const;
-    void add(Entry const &entry, uint32_t hash);
+    void add(Entry const &entry, uint32_t hash, uint32_t slot);
     void addAll(Table const &other);
     void moveTo(int64_t room);
     void countGap(int64_t place);
-    void emptySlotOf(int64_t place);
+    void emptySlot(uint32_t free);
     bool compareInStep(Table const &other, int *order) const;
     Entry *sortedEntries() const;
 
@@ -135,18 +142,25 @@ template <class Entry> void Table<Entry>::clear() {
     init();
 }
 
-// The place of a key among the entries, or -1.
-template <class Entry> int64_t Table<Entry>::placeOf(Chars key, uint32_t hash) const {
+template <class Entry> auto Table<Entry>::search(Chars key, uint32_t hash) const -> Found {
     if (!hashed()) {
         for (int64_t i = 0; i < used; i++)
-            if (equal(entries[i].keyText(), key)) return i;
-        return -1;
+            if (equal(entries[i].keyText(), key)) return {i, 0};
+        return {-1, 0};
     }
     for (uint32_t slot = home(hash);; slot = after(slot)) {
         uint32_t const place = placeOfSlot()[slot];
-        if (place == noPlace) return -1;
-        if (hashes()[place] == hash && equal(entries[place].keyText(), key)) return place;
+        if (place == noPlace) return {-1, slot};
+        if (hashes()[place] == hash && equal(entries[place].keyText(), key)) return {place, slot};
     }
+}
+
+// Where an entry goes whose key is not there; any number where there are no slots.
+template <class Entry> uint32_t Table<Entry>::freeSlot(uint32_t hash) const {
+    if (!hashed()) return 0;
+    uint32_t slot = home(hash);
+    while (placeOfSlot()[slot] != noPlace) slot = after(slot);
+    return slot;
 }
 
 // The place of the entry that has `index` entries before it: first the blocks that lie before it, the largest stride
@@ -170,22 +184,22 @@ template <class Entry> int64_t Table<Entry>::placeAt(int64_t index) const {
 
 template <class Entry> void Table<Entry>::set(Entry const &taken) {
     uint32_t newHash = hash(taken.keyText());
-    if (int64_t const place = placeOf(taken.keyText(), newHash); place >= 0) {
-        entries[place].replaceBy(taken);
+    Found found = search(taken.keyText(), newHash);
+    if (found.place >= 0) {
+        entries[found.place].replaceBy(taken);
         return;
     }
     if (used == capacity) {
         moveTo(count + 1);
         newHash = hash(taken.keyText());
+        found.slot = freeSlot(newHash);
     }
-    add(taken, newHash);
+    add(taken, newHash, found.slot);
 }
 
 // Behind all entries; there must be room.
-template <class Entry> void Table<Entry>::add(Entry const &entry, uint32_t hash) {
+template <class Entry> void Table<Entry>::add(Entry const &entry, uint32_t hash, uint32_t slot) {
     if (hashed()) {
-        uint32_t slot = home(hash);
-        while (placeOfSlot()[slot] != noPlace) slot = after(slot);
         placeOfSlot()[slot] = static_cast<uint32_t>(used);
         hashes()[used] = hash;
     }
@@ -197,7 +211,9 @@ template <class Entry> void Table<Entry>::add(Entry const &entry, uint32_t hash)
 template <class Entry> void Table<Entry>::addAll(Table const &other) {
     for (int64_t i = 0; i < other.used; i++) {
         Entry const &entry = other.entries[i];
-        if (!entry.isGap()) add(entry, other.hashed() ? other.hashes()[i] : hash(entry.keyText()));
+        if (entry.isGap()) continue;
+        uint32_t const known = other.hashed() ? other.hashes()[i] : hash(entry.keyText());
+        add(entry, known, freeSlot(known));
     }
 }
 
@@ -223,9 +239,7 @@ template <class Entry> void Table<Entry>::countGap(int64_t place) {
 }
 
 // Frees a slot and moves those behind it that were only there because it was taken.
-template <class Entry> void Table<Entry>::emptySlotOf(int64_t place) {
-    uint32_t free = home(hashes()[place]);
-    while (placeOfSlot()[free] != place) free = after(free);
+template <class Entry> void Table<Entry>::emptySlot(uint32_t free) {
     for (uint32_t slot = after(free); placeOfSlot()[slot] != noPlace; slot = after(slot)) {
         uint32_t const wayFromHome = home(slot - hashes()[placeOfSlot()[slot]]);
         if (wayFromHome < home(slot - free)) continue;
@@ -236,17 +250,17 @@ template <class Entry> void Table<Entry>::emptySlotOf(int64_t place) {
 }
 
 template <class Entry> void Table<Entry>::remove(Chars key) {
-    int64_t const place = placeOf(key, hash(key));
-    if (place < 0) return;
-    Entry const removed = entries[place];
+    Found const found = search(key, hash(key));
+    if (found.place < 0) return;
+    Entry const removed = entries[found.place];
     count--;
     if (hashed()) {
-        emptySlotOf(place);
-        countGap(place);
-        entries[place] = {};
+        emptySlot(found.slot);
+        countGap(found.place);
+        entries[found.place] = {};
         if (count * 2 < used) moveTo(count);
     } else {
-        std::copy(entries + place + 1, entries + used, entries + place);
+        std::copy(entries + found.place + 1, entries + used, entries + found.place);
         used--;
     }
     removed.release();

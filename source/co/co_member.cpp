@@ -4,6 +4,7 @@
 
 #include <bit>
 #include <co/co_member.hpp>
+#include <co/co_simd.hpp>
 #include <cstring>
 #include <functional>
 
@@ -11,7 +12,7 @@ namespace co {
 
 void *makeZeroed(coSort const *sort, int64_t lineLength) {
     void *mem = allocateObject(sort->size + lineLength * static_cast<int64_t>(sizeof(coChar)), sort);
-    std::memset(static_cast<char *>(mem) + sizeof(coObj), 0, static_cast<size_t>(sort->size) - sizeof(coObj));
+    simd::clearWords(static_cast<char *>(mem) + sizeof(coObj), (static_cast<size_t>(sort->size) - sizeof(coObj)) / 8);
     return mem;
 }
 

@@ -90,6 +90,9 @@ template <class T> void retain(T const *obj) {
     if (!isImmortal(obj)) header(obj)->count.fetch_add(1, std::memory_order_seq_cst);
 }
 
+// The second reference to a new object, which nobody else has seen.
+template <class T> void retainOwn(T const *obj) { header(obj)->count.store(2, std::memory_order_relaxed); }
+
 // Who reads a count of 1 holds the last reference: nobody else can raise it, and no atomic write is needed.
 template <class T> bool isUnique(T const *obj) { return header(obj)->count.load(std::memory_order_seq_cst) == 1; }
 

@@ -110,6 +110,13 @@ inline bool contains(std::u32string_view text, coChar wanted) {
     return false;
 }
 
+inline void copy(coChar *to, std::u32string_view text) {
+    for (coChar const ch : text) *to++ = ch;
+}
+
+// Sets words of eight bytes to zero.
+inline void clearWords(char *words, size_t count) { std::memset(words, 0, 8 * count); }
+
 // US-ASCII to code points.
 inline void widen(coChar *chars, std::string_view ascii) {
     for (char const byte : ascii) *chars++ = static_cast<uint8_t>(byte);
@@ -140,6 +147,8 @@ using Mask = unsigned;
 
 inline Block load(char const *at) { return _mm_loadu_si128(reinterpret_cast<__m128i const *>(at)); }
 inline Block load(coChar const *at) { return _mm_loadu_si128(reinterpret_cast<__m128i const *>(at)); }
+template <class T> void store(T *to, Block block) { _mm_storeu_si128(reinterpret_cast<__m128i *>(to), block); }
+inline Block zeroes() { return _mm_setzero_si128(); }
 inline Block equal(Block block, char wanted) { return _mm_cmpeq_epi8(block, _mm_set1_epi8(wanted)); }
 inline Block either(Block a, Block b) { return _mm_or_si128(a, b); }
 inline Block inRange(Block block, char low, char high) { // moved to the end of what a byte can be
@@ -201,6 +210,8 @@ using Mask = uint64_t; // four bits for each byte
 
 inline Block load(char const *at) { return vld1q_u8(reinterpret_cast<uint8_t const *>(at)); }
 inline Block load(coChar const *at) { return vld1q_u8(reinterpret_cast<uint8_t const *>(at)); }
+template <class T> void store(T *to, Block block) { vst1q_u8(reinterpret_cast<uint8_t *>(to), block); }
+inline Block zeroes() { return vdupq_n_u8(0); }
 inline Block equal(Block block, char wanted) { return vceqq_u8(block, vdupq_n_u8(static_cast<uint8_t>(wanted))); }
 inline Block either(Block a, Block b) { return vorrq_u8(a, b); }
 inline Block inRange(Block block, char low, char high) {
@@ -368,6 +379,26 @@ inline size_t asciiRun(std::u32string_view text) {
     bool const isLast = at > 0 && text.size() - at < wideSize;
     if (isLast && isAsciiAt(text.size() - wideSize)) return text.size();
     return at + scalar::asciiRun(text.substr(at));
+}
+
+// Copies to a place that does not overlap the text. Most texts are shorter than a call takes; the last block overlaps the
+// one before it.
+inline void copy(coChar *to, std::u32string_view text) {
+    constexpr size_t step = blockSize / sizeof(coChar);
+    constexpr size_t longest = 4 * step;
+    if (text.size() < step) return scalar::copy(to, text);
+    if (text.size() > longest) return static_cast<void>(std::memcpy(to, text.data(), text.size() * sizeof(coChar)));
+    size_t const last = text.size() - step;
+    for (size_t at = 0; at < last; at += step) store(to + at, load(text.data() + at));
+    store(to + last, load(text.data() + last));
+}
+
+// Where a compiler takes a place for cold it makes a string instruction of memset, which starts slowly, and what reads the
+// zeroes next waits for it.
+inline void clearWords(char *words, size_t count) {
+    char const *const end = words + 8 * count;
+    for (; end - words >= 16; words += 16) store(words, zeroes());
+    if (words < end) std::memset(words, 0, 8);
 }
 
 inline void widen(coChar *chars, std::string_view ascii) {

@@ -39,7 +39,7 @@ coString *co::makeString(int64_t capacity) {
 }
 
 static void fill(coString *string, co::Chars text) {
-    if (!text.empty()) std::memcpy(string->chars() + string->length, text.data(), text.size() * sizeof(coChar));
+    co::simd::copy(string->chars() + string->length, text);
     string->length += co::length(text);
 }
 

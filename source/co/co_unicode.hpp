@@ -12,6 +12,10 @@ coChar simpleLowerBeyondAscii(coChar ch);
 constexpr coChar asciiLower(coChar ch) { return ch >= U'A' && ch <= U'Z' ? ch + 32 : ch; }
 constexpr coChar asciiUpper(coChar ch) { return ch >= U'a' && ch <= U'z' ? ch - 32 : ch; }
 
+using CharMap = coChar (*)(coChar);
+
+constexpr coChar sameChar(coChar ch) { return ch; }
+
 inline void makeAsciiLower(coChar *chars, size_t count) {
     for (size_t i = 0; i < count; i++) chars[i] = asciiLower(chars[i]);
 }

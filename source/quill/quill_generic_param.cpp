@@ -2,6 +2,8 @@
 
 #define CO_UNIT "source/quill/quill_generic_param"
 
+#include <algorithm>
+#include <co/co_simd.hpp>
 #include <quill/quill_family.hpp>
 #include <quill/quill_generic_param.hpp>
 #include <quill/quill_generic_param_name.h>
@@ -143,8 +145,9 @@ struct coString *quill___GenericParamEncode(struct quillGenericParam const *gene
 struct quillGenericParam *quill::makeGenericParam(co::Chars name, int64_t valueType, co::Chars value) {
     auto *param = co::make<quillGenericParam>(co::length(name) + co::length(value));
     coChar *line = co::lineOf(param);
-    std::copy(value.begin(), value.end(), std::copy(name.begin(), name.end(), line));
-    co::keepLower(param, &quillGenericParam::name, co::chars(line, co::length(name)));
+    std::transform(name.begin(), name.end(), line, co::asciiLower);
+    co::simd::copy(line + name.size(), value);
+    co::keep(param, &quillGenericParam::name, co::chars(line, co::length(name)));
     if (valueType < 0) return param;
     param->valueType.set(valueType);
     co::keep(param, &quillGenericParam::value, co::chars(line + name.size(), co::length(value)));

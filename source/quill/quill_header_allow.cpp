@@ -6,5 +6,5 @@
 #include <quill/quill_header_family.hpp>
 #include <quill/quill_method.h>
 
-QUILL_DEFINE_SET_HEADER(Allow, ALLOW, Method, method, quill___SkipMethod, co::asGiven, quill___SkipComma, U",")
+QUILL_DEFINE_SET_HEADER(Allow, ALLOW, Method, method, quill___SkipMethod, co::sameChar, quill___SkipComma, U",")
 QUILL_DEFINE_SET_TEXT_FORMS(Allow, Method, method)

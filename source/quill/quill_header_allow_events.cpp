@@ -6,6 +6,6 @@
 #include <quill/quill_header_allow_events.h>
 #include <quill/quill_header_family.hpp>
 
-QUILL_DEFINE_SET_HEADER(AllowEvents, ALLOW_EVENTS, EventType, eventType, quill___SkipEventType, co::asGiven,
+QUILL_DEFINE_SET_HEADER(AllowEvents, ALLOW_EVENTS, EventType, eventType, quill___SkipEventType, co::sameChar,
                         quill___SkipComma, U",")
 QUILL_DEFINE_SET_TEXT_FORMS(AllowEvents, EventType, eventType)

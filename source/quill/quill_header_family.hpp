@@ -37,6 +37,12 @@ enum : int { QUILL_TYPED_HEADERS(QUILL_FIELD) };
 
 inline constexpr int64_t usualValueLength = 32; // of a single value that is written
 
+// Of the text of a value: what was read from a line mostly becomes one of that length again.
+template <class H> int64_t roomForValue(H const *hdr) {
+    if constexpr (std::is_base_of_v<co::WithLine, H>) return std::max(usualValueLength, hdr->lineLength);
+    return usualValueLength;
+}
+
 // A raw header of the typed header of a number (known::Type), with one line, which is taken over.
 struct quillMessageHeader *makeHeaderOfLine(int known, coString *line);
 
@@ -167,16 +173,15 @@ inline bool hasToken(SetHeader const *hdr, coString *taken) {
     return coDictHasStringKey(hdr->tokens.get(), token.get());
 }
 
-template <class H>
-H *tryDecodeSet(Lines &lines, Scanner token, Scanner separator, coString *(*normalize)(coString const *)) {
+// `map` gives each character of a token as it is kept.
+template <class H, co::CharMap map> H *tryDecodeSet(Lines &lines, Scanner token, Scanner separator) {
     co::Ref<H> hdr(makeSet<H>());
     auto const take = [&](co::Chars text) {
         int64_t const count = measure(token, text);
         if (count == 0) return count;
-        co::Ref<coString> found(co::makeString(upTo(text, count)));
-        co::Ref<coString> normal(normalize(found.get()));
-        if (normal.get() != found.get()) found.reset(co::retained(normal.get()));
-        co::setTaken(hdr->tokens.address(), normal.take(), co::header(found.take())); // it is key and value
+        coString *found = makeMapped<map>(upTo(text, count));
+        co::retainOwn(found); // it is key and value
+        co::setTaken(hdr->tokens.address(), found, co::header(found));
         return count;
     };
     return readElements(lines, separator, take) ? hdr.take() : nullptr;
@@ -275,7 +280,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     static void appendValue(coString **text, struct quillHeader##Type const *hdr);                                     \
     struct quillMessageHeader *quillHeader##Type##Encode(struct quillHeader##Type const *hdr) {                        \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
-        coString *line = co::makeString(quill::usualValueLength);                                                      \
+        coString *line = co::makeString(quill::roomForValue(hdr));                                                     \
         appendValue(&line, hdr);                                                                                       \
         return quill::makeHeaderOfLine(quill::known::Type, line);                                                      \
     }
@@ -402,8 +407,8 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     QUILL_DEFINE_LIST_CLEAR(Type, Clear##Element##s)                                                                   \
     QUILL_DEFINE_SCALAR_LIST_ACCESS(Type, Element, value, co::asGiven)
 
-// A set of tokens on one line. `normalize` gives a token as it is kept, co::asGiven where that is itself.
-#define QUILL_DEFINE_SET_HEADER(Type, SORT, Token, token, skip, normalize, separator, delimiter)                       \
+// A set of tokens on one line. `map` gives each character of a token as it is kept.
+#define QUILL_DEFINE_SET_HEADER(Type, SORT, Token, token, skip, map, separator, delimiter)                             \
     struct quillHeader##Type : quill::SetHeader {                                                                      \
         static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
     };                                                                                                                 \
@@ -416,11 +421,11 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
         return quill::makeHeaderOfJoined(quill::known::Type, hdr->tokens.get(), delimiter);                            \
     }                                                                                                                  \
     static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
-        return quill::tryDecodeSet<struct quillHeader##Type>(lines, skip, separator, normalize);                       \
+        return quill::tryDecodeSet<struct quillHeader##Type, map>(lines, skip, separator);                             \
     }                                                                                                                  \
-    QUILL_DEFINE_SET_ACCESS(Type, Token, token, normalize)
+    QUILL_DEFINE_SET_ACCESS(Type, Token, token, map)
 
-#define QUILL_DEFINE_SET_ACCESS(Type, Token, token, normalize)                                                         \
+#define QUILL_DEFINE_SET_ACCESS(Type, Token, token, map)                                                               \
     void quillHeader##Type##Clear##Token##s(struct quillHeader##Type **hdr) {                                          \
         CO_ASSERT_REFERENCE(hdr);                                                                                      \
         coDictClear(co::writable(hdr)->tokens.address());                                                              \
@@ -440,12 +445,12 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     bool quillHeader##Type##Has##Token(struct quillHeader##Type const *hdr, struct coString const *token) {            \
         CO_ASSERT_GIVEN(hdr);                                                                                          \
         CO_ASSERT_OK(quill##Token##Ok, token);                                                                         \
-        return quill::hasToken(hdr, normalize(token));                                                                 \
+        return quill::hasToken(hdr, quill::mapEach<map>(token));                                                       \
     }                                                                                                                  \
     void quillHeader##Type##Set##Token(struct quillHeader##Type **hdr, struct coString *token) {                       \
         CO_ASSERT_REFERENCE(hdr);                                                                                      \
         CO_ASSERT_OK(quill##Token##Ok, token);                                                                         \
-        quill::addToken(co::writable(hdr), normalize(token));                                                          \
+        quill::addToken(co::writable(hdr), quill::mapEach<map>(token));                                                \
     }                                                                                                                  \
     void quillHeader##Type##Set##Token##sVector(struct quillHeader##Type **hdr, struct coVector const *vec) {          \
         CO_ASSERT_REFERENCE(hdr);                                                                                      \
@@ -456,7 +461,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     void quillHeader##Type##Del##Token(struct quillHeader##Type **hdr, struct coString const *token) {                 \
         CO_ASSERT_REFERENCE(hdr);                                                                                      \
         CO_ASSERT_OK(quill##Token##Ok, token);                                                                         \
-        quill::deleteToken(co::writable(hdr), normalize(token));                                                       \
+        quill::deleteToken(co::writable(hdr), quill::mapEach<map>(token));                                             \
     }
 
 #define QUILL_DEFINE_SET_TEXT_FORMS(Type, Token, token)                                                                \

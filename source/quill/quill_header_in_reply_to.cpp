@@ -6,5 +6,5 @@
 #include <quill/quill_header_family.hpp>
 #include <quill/quill_header_in_reply_to.h>
 
-QUILL_DEFINE_SET_HEADER(InReplyTo, IN_REPLY_TO, CallId, callId, quill___SkipCallId, co::asGiven, quill___SkipComma,
+QUILL_DEFINE_SET_HEADER(InReplyTo, IN_REPLY_TO, CallId, callId, quill___SkipCallId, co::sameChar, quill___SkipComma,
                         U",")

@@ -6,6 +6,6 @@
 #include <quill/quill_header_privacy.h>
 #include <quill/quill_priv_value.h>
 
-QUILL_DEFINE_SET_HEADER(Privacy, PRIVACY, PrivValue, privValue, quill___SkipPrivValue, quillPrivValueNormalize,
-                        quill___SkipSemi, U";")
+QUILL_DEFINE_SET_HEADER(Privacy, PRIVACY, PrivValue, privValue, quill___SkipPrivValue, co::asciiLower, quill___SkipSemi,
+                        U";")
 QUILL_DEFINE_SET_TEXT_FORMS(Privacy, PrivValue, privValue)

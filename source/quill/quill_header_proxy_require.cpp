@@ -6,6 +6,6 @@
 #include <quill/quill_header_proxy_require.h>
 #include <quill/quill_option_tag.h>
 
-QUILL_DEFINE_SET_HEADER(ProxyRequire, PROXY_REQUIRE, OptionTag, optionTag, quill___SkipOptionTag,
-                        quillOptionTagNormalize, quill___SkipComma, U",")
+QUILL_DEFINE_SET_HEADER(ProxyRequire, PROXY_REQUIRE, OptionTag, optionTag, quill___SkipOptionTag, co::asciiLower,
+                        quill___SkipComma, U",")
 QUILL_DEFINE_SET_TEXT_FORMS(ProxyRequire, OptionTag, optionTag)

@@ -6,5 +6,5 @@
 #include <quill/quill_header_unsupported.h>
 #include <quill/quill_option_tag.h>
 
-QUILL_DEFINE_SET_HEADER(Unsupported, UNSUPPORTED, OptionTag, optionTag, quill___SkipOptionTag, quillOptionTagNormalize,
+QUILL_DEFINE_SET_HEADER(Unsupported, UNSUPPORTED, OptionTag, optionTag, quill___SkipOptionTag, co::asciiLower,
                         quill___SkipComma, U",")

@@ -2,6 +2,7 @@
 // only paste names and condition texts. The headers spell every prototype out, so that the two check each other.
 #pragma once
 
+#include <algorithm>
 #include <co/co_assert.hpp>
 #include <co/co_format.h>
 #include <co/co_string.hpp>
@@ -84,16 +85,19 @@ inline int64_t decodeDecimal(coChar const *chs, int64_t length, bool (*ok)(int64
     return whole && ok(value) ? value : -1;
 }
 
-// The text with each code point mapped: the same string where that changes nothing.
-template <coChar (*map)(coChar)> coString *mapEach(coString const *value) {
-    co::Chars const text = value->view();
-    size_t same = 0;
-    while (same < text.size() && map(text[same]) == text[same]) same++;
-    if (same == text.size()) return co::retained(value);
-
-    coString *mapped = co::makeString(text);
-    for (size_t i = same; i < text.size(); i++) mapped->chars()[i] = map(text[i]);
+// A new string of a text with each code point mapped.
+template <co::CharMap map> coString *makeMapped(co::Chars text) {
+    coString *mapped = co::makeString(co::length(text));
+    mapped->length = co::length(text);
+    std::transform(text.begin(), text.end(), mapped->chars(), map);
     return mapped;
+}
+
+// The same of a string: that itself where nothing changes.
+template <co::CharMap map> coString *mapEach(coString const *value) {
+    co::Chars const text = value->view();
+    bool const same = std::all_of(text.begin(), text.end(), [](coChar ch) { return map(ch) == ch; });
+    return same ? co::retained(value) : makeMapped<map>(text);
 }
 
 } // namespace quill
