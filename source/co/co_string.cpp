@@ -239,7 +239,12 @@ void co::append(coString **string, std::initializer_list<Chars> texts) {
     int64_t more = 0;
     for (Chars const text : texts) more += length(text);
     coString *old = reserve(string, more);
-    for (Chars const text : texts) fill(*string, text);
+    coChar *end = (*string)->chars() + (*string)->length;
+    for (Chars const text : texts) {
+        simd::copy(end, text);
+        end += text.size();
+    }
+    (*string)->length += more;
     if (old) release(old);
 }
 

@@ -10,6 +10,7 @@ namespace {
 
 constexpr size_t longest = 200;
 constexpr size_t alignments = 16;
+constexpr size_t wordSize = 8;
 
 // A text in memory of its own that begins some elements behind an aligned address, and ends with it.
 template <class Char> class Placed {
@@ -67,6 +68,9 @@ void expectSameOfChars(std::u32string_view text) {
     for (coChar wanted : {U'%', U'\x80', U'\x10FFFF', U'\0'})
         ASSERT_EQ(co::simd::contains(text, wanted), co::scalar::contains(text, wanted));
     ASSERT_EQ(co::simd::uriRun(text), co::scalar::uriRun(text));
+    Placed<char32_t> copied(1, std::u32string(text.size() + 2, U'#'));
+    co::simd::copy(&copied[1], text);
+    ASSERT_EQ(copied.view(), U'#' + std::u32string(text) + U'#');
 }
 
 // Whatever a code point's higher bits are.
@@ -150,6 +154,14 @@ TEST(Simd, FindsLineEndsAtEachPlace) {
             text[at + 1] = '\r'; // LF CR, a CR at the end among them
             ASSERT_EQ(co::findLineEnd(Placed<char>(0, text).view()), size);
         }
+}
+
+TEST(Simd, ClearsWordsAndNoMore) {
+    for (size_t count = 0; count < 10; count++) {
+        std::string bytes(count * wordSize + 1, '#');
+        co::simd::clearWords(bytes.data(), count);
+        ASSERT_EQ(bytes, std::string(count * wordSize, '\0') + '#');
+    }
 }
 
 // Wherever the search begins. One that begins behind the empty line's last byte doesn't find it.
