@@ -223,10 +223,14 @@ static void appendSentBy(coString **text, quillVia const *via) {
     co::appendInt(text, via->port.get(), 10, 0, false, co::Case::lower);
 }
 
-// With room for what most values have, so that their text seldom grows.
+// With room for all but parameters that few values have, so that it seldom grows; and little more, since a list keeps it.
 static coString *makeTextFor(quillVia const *via) {
-    constexpr int64_t rest = 64; // version, transport, port, received and rport
-    return co::makeString(rest + co::length(via->host.view()) + co::length(via->branch.view()));
+    int64_t room = std::ssize(U"SIP/2.0/ ") + std::ssize(U";branch=");
+    for (co::TextSlot const *part : {&via->transport, &via->host, &via->branch}) room += co::length(part->view());
+    if (via->port) room += std::ssize(U":65535");
+    if (via->received) room += std::ssize(U";received=255.255.255.255");
+    if (via->rportEmpty.get() || via->rportNumeric) room += std::ssize(U";rport=65535");
+    return co::makeString(room);
 }
 
 struct coString *quill___ViaEncode(struct quillVia const *via) {
