@@ -12,7 +12,8 @@
 static constexpr int rounds = 200;
 static constexpr int manyParts = 100;
 
-static std::string nameOf(int number) { return "X-" + std::to_string(number); }
+// Longer than a word.
+static std::string nameOf(int number) { return "X-Header-" + std::to_string(number); }
 
 static coBuffer *bufferOf(std::string const &bytes) {
     return coBufferCreateFromBytesCopy(reinterpret_cast<uint8_t const *>(bytes.data()), std::ssize(bytes));
