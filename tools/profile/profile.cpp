@@ -62,16 +62,33 @@ static void readTypedHeaders(quillMessage const *msg) {
         if (coObj *header = quillTypedHeaderAt(i)->tryDecodeFromMessage(msg)) coObjRelease(header);
 }
 
-// A message with many fields that nobody knows.
+// A message with many fields that nobody knows, many parameters and a set of many tokens.
 static std::string messageOfMany() {
     std::string lines;
-    for (int i = 0; i < manyParts; i++) lines += nameOf(i) + ": a\r\n";
-    return "OPTIONS sip:bob@example.org SIP/2.0\r\nVia: SIP/2.0/UDP example.org;branch=z9hG4bK1\r\n" + lines + "\r\n";
+    std::string params;
+    std::string tokens = "a";
+    for (int i = 0; i < manyParts; i++) {
+        lines += nameOf(i) + ": a\r\n";
+        params += ";p" + std::to_string(i) + "=v" + std::to_string(i);
+        tokens += ",a" + std::to_string(i);
+    }
+    return "OPTIONS sip:bob@example.org SIP/2.0\r\nVia: SIP/2.0/UDP example.org;branch=z9hG4bK1\r\n" + lines +
+           "From: <sip:alice@example.org>" + params + "\r\nSupported: " + tokens + "\r\n\r\n";
+}
+
+static void rewriteTypedHeaders(quillMessage **msg) {
+    quillHeaderFrom *from = quillHeaderFromTryDecodeFromMessage(*msg);
+    quillHeaderSupported *supported = quillHeaderSupportedTryDecodeFromMessage(*msg);
+    quillHeaderFromEncodeToMessage(from, msg);
+    quillHeaderSupportedEncodeToMessage(supported, msg);
+    quillHeaderFromRelease(from);
+    quillHeaderSupportedRelease(supported);
 }
 
 // What tables and sets are for.
 static void passMany(std::string const &bytes) {
     quillMessage *msg = tryDecode(bytes);
+    rewriteTypedHeaders(&msg);
     quillGenericParams *params = quillGenericParamsCreate();
     quillHeaderSupported *supported = quillHeaderSupportedCreate();
     for (int i = 0; i < manyParts; i++) {
