@@ -9,13 +9,17 @@
 #include <co/co_memory.h>
 #include <co/co_string.hpp>
 #include <cstring>
+#include <utility>
 
 static uint8_t *inlineBytes(coBuffer const *buffer) {
     return reinterpret_cast<uint8_t *>(const_cast<coBuffer *>(buffer) + 1);
 }
 
 static void freeBytes(coBuffer *buffer) {
-    if (buffer->bytes != inlineBytes(buffer)) coMemFree(buffer->bytes);
+    if (buffer->lender)
+        co::release(std::exchange(buffer->lender, nullptr));
+    else if (buffer->bytes != inlineBytes(buffer))
+        coMemFree(buffer->bytes);
 }
 
 static void freeBuffer(coObj *obj) {
@@ -66,6 +70,7 @@ coBuffer *co::makeBuffer(int64_t capacity) {
     buffer->head = 0;
     buffer->length = 0;
     buffer->capacity = capacity;
+    buffer->lender = nullptr;
     return buffer;
 }
 
@@ -74,6 +79,27 @@ static coBuffer *bufferOf(uint8_t const *bytes, int64_t count, int64_t capacity)
     copyBytes(buffer->bytes, bytes, count);
     buffer->length = count;
     return buffer;
+}
+
+// Whether so much of a buffer is rather borrowed than copied: it is long, and most of what then lives on.
+static bool isBorrowed(coBuffer const *buffer, int64_t count) {
+    return count >= co::longBuffer && count >= buffer->heldSize() / 2;
+}
+
+static coBuffer *borrow(coBuffer const *from, int64_t offset, int64_t count) {
+    coBuffer *buffer = co::makeBuffer(0);
+    buffer->lender = co::retained(from->lender ? from->lender : from);
+    buffer->bytes = from->bytes;
+    buffer->head = from->head + offset;
+    buffer->length = count;
+    return buffer;
+}
+
+// A buffer that needs no bytes any more has none of a lender.
+static void giveBack(coBuffer *buffer) {
+    if (!buffer->lender) return;
+    freeBytes(buffer);
+    buffer->bytes = inlineBytes(buffer);
 }
 
 // Reading.
@@ -103,7 +129,7 @@ static bool canMoveToFront(coBuffer const *buffer) { return buffer->head >= buff
 
 int64_t coBufferSpace(struct coBuffer const *buffer) {
     CO_ASSERT_GIVEN(buffer);
-    if (!co::isUnique(buffer)) return 0; // to be copied first
+    if (!co::isUnique(buffer) || buffer->lender) return 0; // to be copied first
     return buffer->capacity - buffer->length - (canMoveToFront(buffer) ? 0 : buffer->head);
 }
 
@@ -163,15 +189,25 @@ uint8_t *co::appendSpace(coBuffer **buffer, int64_t more) {
 void co::appendWithMoreSpace(coBuffer **buffer, std::string_view bytes) {
     auto const *source = reinterpret_cast<uint8_t const *>(bytes.data());
     auto const offset = reinterpret_cast<uintptr_t>(source) - reinterpret_cast<uintptr_t>((*buffer)->begin());
-    bool const own = offset < static_cast<uintptr_t>((*buffer)->length);
+    auto const length = static_cast<uintptr_t>((*buffer)->length);
+    bool const own = offset < length && bytes.size() <= length - offset; // not what a lender has behind them
     makeSpace(buffer, static_cast<int64_t>(bytes.size()));
     appendInPlace(*buffer, own ? (*buffer)->view().substr(offset, bytes.size()) : bytes);
+}
+
+// A long part is borrowed where there is nothing to put it behind.
+static void appendPart(coBuffer **buffer, coBuffer const *other, int64_t offset, int64_t count) {
+    if (!isBorrowed(other, count) || (*buffer)->length > 0)
+        return co::append(buffer,
+                          {reinterpret_cast<char const *>(other->begin() + offset), static_cast<size_t>(count)});
+    coBuffer *borrowed = borrow(other, offset, count);
+    co::release(std::exchange(*buffer, borrowed));
 }
 
 void coBufferAppend(struct coBuffer **buffer, struct coBuffer const *other) {
     CO_ASSERT_REFERENCE(buffer);
     CO_ASSERT_GIVEN(other);
-    co::append(buffer, other->view());
+    appendPart(buffer, other, 0, other->length);
 }
 
 void coBufferAppendByte(struct coBuffer **buffer, uint8_t byte) {
@@ -197,26 +233,22 @@ static void assertCountOfOther(coBuffer const *other, int64_t count) {
     CO_ASSERT(count >= 0 && count <= other->length, "count >= 0 && count <= coBufferLength( other )");
 }
 
-static std::string_view part(coBuffer const *buffer, int64_t offset, int64_t count) {
-    return {reinterpret_cast<char const *>(buffer->begin() + offset), static_cast<size_t>(count)};
-}
-
 void coBufferAppendInner(struct coBuffer **buffer, struct coBuffer const *other, int64_t offset, int64_t count) {
     CO_ASSERT_REFERENCE(buffer);
     assertRangeOfOther(other, offset, count);
-    co::append(buffer, part(other, offset, count));
+    appendPart(buffer, other, offset, count);
 }
 
 void coBufferAppendLeading(struct coBuffer **buffer, struct coBuffer const *other, int64_t count) {
     CO_ASSERT_REFERENCE(buffer);
     assertCountOfOther(other, count);
-    co::append(buffer, part(other, 0, count));
+    appendPart(buffer, other, 0, count);
 }
 
 void coBufferAppendTrailing(struct coBuffer **buffer, struct coBuffer const *other, int64_t count) {
     CO_ASSERT_REFERENCE(buffer);
     assertCountOfOther(other, count);
-    co::append(buffer, part(other, other->length - count, count));
+    appendPart(buffer, other, other->length - count, count);
 }
 
 void coBufferAppendOuter(struct coBuffer **buffer, struct coBuffer const *other, int64_t offset, int64_t count) {
@@ -238,10 +270,12 @@ void coBufferAppendOuter(struct coBuffer **buffer, struct coBuffer const *other,
 static void keep(coBuffer **reference, int64_t offset, int64_t count) {
     coBuffer *buffer = *reference;
     if (!co::isUnique(buffer)) {
-        *reference = bufferOf(buffer->begin() + offset, count, count);
+        *reference = isBorrowed(buffer, count) ? borrow(buffer, offset, count)
+                                               : bufferOf(buffer->begin() + offset, count, count);
         co::release(buffer);
         return;
     }
+    if (count == 0) giveBack(buffer);
     buffer->head = count == 0 ? 0 : buffer->head + offset;
     buffer->length = count;
 }

@@ -559,7 +559,7 @@ static WireText *makeCopy(Splitter const &splitter) {
 static bool canKeep(Splitter const &splitter, coBuffer const *buffer) {
     size_t const size = splitter.headers.size();
     constexpr size_t many = 16 << 10;
-    return size > many && buffer && !splitter.hasOddNames && buffer->capacity < static_cast<int64_t>(2 * size);
+    return size > many && buffer && !splitter.hasOddNames && buffer->heldSize() < static_cast<int64_t>(2 * size);
 }
 
 static bool readUtf8(Splitter *splitter) {

@@ -38,7 +38,7 @@ QUILL_API int64_t quillMessageStreamDecoderSpace(struct quillMessageStreamDecode
 
 /// @name Writing
 /// A buffer, or a part of one: its first or last bytes, a range, everything but a range. False, and nothing is taken,
-/// when the stream is broken.
+/// when the stream is broken. 1 MB or more may be shared with the buffer, which is then copied when it is changed.
 /// @{
 QUILL_API bool quillMessageStreamDecoderWrite(struct quillMessageStreamDecoder *decoder, struct coBuffer const *buffer);
 QUILL_API bool quillMessageStreamDecoderWriteLeading(struct quillMessageStreamDecoder *decoder,

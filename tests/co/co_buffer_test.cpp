@@ -173,6 +173,145 @@ TEST(Buffer, BehavesLikeItsModel) {
     }
 }
 
+std::string longText() {
+    std::string text(static_cast<size_t>(co::longBuffer) + 1000, '\0');
+    for (size_t i = 0; i < text.size(); i++) text[i] = static_cast<char>(i * 31 % 251);
+    return text;
+}
+
+TEST(Buffer, ALongOneLendsItsBytes) {
+    std::string const text = longText();
+    co::Ref<coBuffer> lender = buffer(text);
+    uint8_t const *const backing = coBufferBacking(lender.get());
+    co::Ref<coBuffer> borrower(co::retained(lender.get()));
+    coBufferDelLeading(borrower.address(), 10);
+    EXPECT_EQ(coBufferBacking(borrower.get()), backing + 10);
+    EXPECT_EQ(bytes(borrower.get()), text.substr(10));
+    EXPECT_EQ(coBufferSpace(borrower.get()), 0);
+    coBufferDelLeading(borrower.address(), 10);
+    EXPECT_EQ(coBufferBacking(borrower.get()), backing + 20);
+    EXPECT_EQ(bytes(lender.get()), text);
+
+    coBufferAppendByte(lender.address(), 'x');
+    EXPECT_NE(coBufferBacking(lender.get()), backing) << "its bytes are borrowed";
+    EXPECT_EQ(bytes(lender.get()), text + 'x');
+    EXPECT_EQ(bytes(borrower.get()), text.substr(20));
+
+    co::Ref<coBuffer> second(co::retained(borrower.get()));
+    coBufferDelOuter(second.address(), 1, co::longBuffer);
+    borrower.reset(nullptr);
+    EXPECT_EQ(coBufferBacking(second.get()), backing + 21);
+    coBufferAppendByte(second.address(), 'x');
+    EXPECT_NE(coBufferBacking(second.get()), backing + 21);
+    EXPECT_EQ(bytes(second.get()), text.substr(21, co::longBuffer) + 'x');
+    EXPECT_GT(coBufferSpace(second.get()), 0);
+}
+
+TEST(Buffer, AnEmptyOneBorrowsALongPart) {
+    std::string const text = longText();
+    co::Ref<coBuffer> const lender = buffer(text);
+    auto const expectBorrowed = [&](coBuffer *empty, int64_t offset, int64_t count,
+                                    void (*append)(coBuffer **, coBuffer *)) {
+        co::Ref<coBuffer> b(empty);
+        append(b.address(), lender.get());
+        EXPECT_EQ(coBufferBacking(b.get()), coBufferBacking(lender.get()) + offset);
+        EXPECT_EQ(bytes(b.get()), text.substr(static_cast<size_t>(offset), static_cast<size_t>(count)));
+        coBufferAppendByte(b.address(), 'x');
+        EXPECT_EQ(coBufferLength(b.get()), count + 1);
+        EXPECT_EQ(lender->count, 1);
+    };
+    constexpr int64_t most = co::longBuffer;
+    expectBorrowed(coBufferCreate(), 0, length(text), [](coBuffer **b, coBuffer *from) { coBufferAppend(b, from); });
+    expectBorrowed(co::makeBuffer(100), 0, most,
+                   [](coBuffer **b, coBuffer *from) { coBufferAppendLeading(b, from, most); });
+    expectBorrowed(coBufferCreate(), length(text) - most, most,
+                   [](coBuffer **b, coBuffer *from) { coBufferAppendTrailing(b, from, most); });
+    expectBorrowed(coBufferCreate(), 3, most,
+                   [](coBuffer **b, coBuffer *from) { coBufferAppendInner(b, from, 3, most); });
+}
+
+TEST(Buffer, AnEmptySharedOneIsLeftToItsHolders) {
+    co::Ref<coBuffer> const source = buffer(longText());
+    co::Ref<coBuffer> b(coBufferCreate());
+    co::Ref<coBuffer> const other(co::retained(b.get()));
+    coBufferAppend(b.address(), source.get());
+    EXPECT_EQ(bytes(other.get()), "");
+    EXPECT_EQ(other->count, 1);
+    EXPECT_EQ(source->count, 2);
+}
+
+TEST(Buffer, WhatNeedsNoBytesGivesThemBack) {
+    co::Ref<coBuffer> const lender = buffer(longText());
+    co::Ref<coBuffer> borrower(co::retained(lender.get()));
+    coBufferDelLeading(borrower.address(), 1);
+    EXPECT_EQ(lender->count, 2);
+    coBufferDelLeading(borrower.address(), coBufferLength(borrower.get()));
+    EXPECT_EQ(lender->count, 1);
+    EXPECT_EQ(bytes(borrower.get()), "");
+    coBufferAppendByte(borrower.address(), 'x');
+    EXPECT_EQ(bytes(borrower.get()), "x");
+}
+
+// So that little does not keep much alive.
+TEST(Buffer, LessThanHalfIsCopied) {
+    std::string const text = longText() + longText() + longText();
+    co::Ref<coBuffer> const lender = buffer(text);
+    for (int64_t kept : {co::longBuffer - 1, co::longBuffer, length(text) / 2 - 1, length(text) / 2}) {
+        co::Ref<coBuffer> part(co::retained(lender.get()));
+        coBufferDelOuter(part.address(), 5, kept);
+        EXPECT_EQ(bytes(part.get()), text.substr(5, static_cast<size_t>(kept)));
+        EXPECT_EQ(lender->count, kept == length(text) / 2 ? 2 : 1);
+    }
+}
+
+// Parts of a lender behind those that are borrowed, too.
+TEST(Buffer, LongOnesBehaveLikeTheirModels) {
+    struct {
+        co::Ref<coBuffer> buffer;
+        std::string model;
+    } all[3];
+    std::string const text = longText();
+    co::Ref<coBuffer> const source = buffer(text);
+    std::mt19937 random(1);
+    auto const below = [&](size_t limit) { return random() % (limit + 1); };
+    for (int step = 0; step < 400; step++) {
+        auto &[b, model] = all[below(2)];
+        auto const &[other, otherModel] = all[below(2)];
+        if (!b || model.size() > 3 * text.size()) {
+            b.reset(co::retained(source.get()));
+            model = text;
+        }
+        size_t const offset = below(std::min<size_t>(model.size(), 300));
+        size_t const count = model.size() - offset - below(std::min<size_t>(model.size() - offset, 300));
+        auto const at = static_cast<int64_t>(offset);
+        auto const many = static_cast<int64_t>(count);
+        switch (random() % 6) {
+        case 0:
+            coBufferDelLeading(b.address(), at), model.erase(0, offset);
+            break;
+        case 1:
+            coBufferDelOuter(b.address(), at, many), model = model.substr(offset, count);
+            break;
+        case 2:
+            coBufferAppendBytes(b.address(), data("abc"), 3), model += "abc";
+            break;
+        case 3:
+            if (other) b.reset(co::retained(other.get())), model = otherModel;
+            break;
+        case 4:
+            coBufferAppendInner(b.address(), source.get(), length(text) - 500, 500),
+                model += text.substr(text.size() - 500);
+            break;
+        case 5:
+            coBufferAppendOuter(b.address(), source.get(), 100, length(text) - 200);
+            model += text.substr(0, 100) + text.substr(text.size() - 100);
+            break;
+        }
+        for (auto const &[held, expected] : all) ASSERT_TRUE(!held || held->view() == expected) << step;
+    }
+    EXPECT_EQ(source->view(), text);
+}
+
 TEST(Buffer, SpaceIsWhatCanBeAppendedInPlace) {
     co::Ref<coBuffer> b(coBufferCreate());
     EXPECT_EQ(coBufferSpace(b.get()), 0);

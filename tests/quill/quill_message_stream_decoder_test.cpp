@@ -1,5 +1,6 @@
 #include "objects.hpp"
 
+#include <co/co_buffer.hpp>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -219,6 +220,49 @@ TEST(QuillMessageStreamDecoder, SpaceIsTheBuffers) {
         EXPECT_EQ(quillMessageStreamDecoderSpace(stream.get()), space - 1);
     }
     EXPECT_GE(space, 0);
+}
+
+// Its bytes stay where they are until more come.
+TEST(QuillMessageStreamDecoder, SharesALongBuffer) {
+    std::string const both = std::string(request) + response;
+    std::string text;
+    size_t pairs = 0;
+    for (; text.size() < static_cast<size_t>(co::longBuffer); pairs++) text += both;
+    auto written = buffer(text + std::string(request).substr(0, 20));
+    Stream stream;
+    ASSERT_TRUE(quillMessageStreamDecoderWrite(stream.get(), written.get()));
+    EXPECT_EQ(count(written.get()), 2);
+    EXPECT_EQ(stream.length(), coBufferLength(written.get()));
+    EXPECT_EQ(quillMessageStreamDecoderSpace(stream.get()), 0);
+    EXPECT_EQ(stream.show(), requestText);
+    coBufferDelLeading(written.address(), coBufferLength(written.get())); // the writer goes on with it
+    coBufferAppendBytes(written.address(), reinterpret_cast<uint8_t const *>(request) + 20, sizeof request - 1 - 20);
+
+    std::vector<std::string> messages;
+    stream.readAll(&messages);
+    EXPECT_EQ(messages.size(), 2 * pairs - 1);
+    EXPECT_EQ(stream.length(), 20);
+    ASSERT_TRUE(quillMessageStreamDecoderWrite(stream.get(), written.get()));
+    EXPECT_EQ(count(written.get()), 1);
+    stream.readAll(&messages);
+    ASSERT_EQ(messages.size(), 2 * pairs);
+    for (size_t i = 0; i < messages.size(); i++) ASSERT_EQ(messages[i], i % 2 ? requestText : responseText) << i;
+    EXPECT_EQ(stream.length(), 0);
+    EXPECT_FALSE(stream.error());
+}
+
+// What waits is in front of it.
+TEST(QuillMessageStreamDecoder, CopiesALongBufferBehindWhatWaits) {
+    std::string text(request);
+    while (text.size() < 2 * static_cast<size_t>(co::longBuffer)) text += text;
+    auto const written = buffer(text.substr(1));
+    Stream stream;
+    stream.write("I");
+    ASSERT_TRUE(quillMessageStreamDecoderWrite(stream.get(), written.get()));
+    EXPECT_EQ(count(written.get()), 1);
+    std::vector<std::string> messages;
+    stream.readAll(&messages);
+    EXPECT_EQ(messages, std::vector<std::string>(text.size() / (sizeof request - 1), requestText));
 }
 
 TEST(QuillMessageStreamDecoder, Asserts) {
