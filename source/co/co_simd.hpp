@@ -93,13 +93,19 @@ constexpr bool isInRange(coChar ch, char low, char high) {
     return ch >= static_cast<unsigned char>(low) && ch <= static_cast<unsigned char>(high);
 }
 
-// How many leading characters are letters, digits, "-", ".", "/", ":" and "@": what URIs mostly are.
-[[gnu::noinline]] inline size_t uriRun(std::u32string_view text) {
-    auto const isMember = [](coChar ch) {
-        return isInRange(ch | 0x20, 'a', 'z') || isInRange(ch, '-', ':') || ch == U'@';
-    };
+constexpr bool isOfHostport(coChar ch) { return isInRange(ch | 0x20, 'a', 'z') || isInRange(ch, '-', ':'); }
+
+// How many leading characters are letters, digits, "-", ".", "/" and ":".
+[[gnu::noinline]] inline size_t hostportRun(std::u32string_view text) {
     size_t count = 0;
-    while (count < text.size() && isMember(text[count])) count++;
+    while (count < text.size() && isOfHostport(text[count])) count++;
+    return count;
+}
+
+// The same with "@": what URIs mostly are.
+[[gnu::noinline]] inline size_t uriRun(std::u32string_view text) {
+    size_t count = 0;
+    while (count < text.size() && (isOfHostport(text[count]) || text[count] == U'@')) count++;
     return count;
 }
 
@@ -347,13 +353,21 @@ inline size_t findEmptyLine(std::string_view text, size_t from) {
     return firstEmptyLine(text, from, behind(ends, stepSize - left));
 }
 
-inline size_t uriRun(std::u32string_view text) {
-    if (text.size() < blockSize) return scalar::uriRun(text);
+// With what stands before the capital letters.
+template <char low> size_t runFrom(std::u32string_view text) {
     return firstPlace(text.size(), [=](size_t at) {
         Block const bytes = narrowed(text.data() + at);
-        Block const letters = either(inRange(bytes, 'a', 'z'), inRange(bytes, '@', 'Z')); // and "@"
+        Block const letters = either(inRange(bytes, 'a', 'z'), inRange(bytes, low, 'Z'));
         return highBits(equal(either(letters, inRange(bytes, '-', ':')), '\0'));
     });
+}
+
+inline size_t hostportRun(std::u32string_view text) {
+    return text.size() < blockSize ? scalar::hostportRun(text) : runFrom<'A'>(text);
+}
+
+inline size_t uriRun(std::u32string_view text) {
+    return text.size() < blockSize ? scalar::uriRun(text) : runFrom<'@'>(text);
 }
 
 inline size_t asciiRun(std::string_view text) {

@@ -4,6 +4,7 @@
 
 #include <co/co_assert.hpp>
 #include <co/co_ip.hpp>
+#include <co/co_simd.hpp>
 #include <loc/loc_skip.h>
 #include <loc/loc_skip.hpp>
 #include <quill/quill_skip.h>
@@ -105,7 +106,12 @@ QUILL_RULE(atom, run(isAtom))
 QUILL_DEFINE_SKIP(Atom, atom)
 
 // word = 1*( token's characters / "(" / ")" / "<" / ">" / ":" / "\" / DQUOTE / "/" / "[" / "]" / "?" / "{" / "}" )
-QUILL_RULE(word, run(isWord))
+// Long ones mostly are letters, digits, "-" and ".".
+static constexpr auto word = [](Chars text) -> int64_t {
+    constexpr size_t worthwhile = 16;
+    auto const begin = static_cast<int64_t>(text.size() < worthwhile ? 0 : co::simd::hostportRun(text));
+    return nonEmpty(begin + span(from(text, begin), isWord));
+};
 QUILL_DEFINE_SKIP(Word, word)
 
 QUILL_DEFINE_SKIP(Digits, digits)

@@ -68,6 +68,7 @@ void expectSameOfChars(std::u32string_view text) {
     for (coChar wanted : {U'%', U'\x80', U'\x10FFFF', U'\0'})
         ASSERT_EQ(co::simd::contains(text, wanted), co::scalar::contains(text, wanted));
     ASSERT_EQ(co::simd::uriRun(text), co::scalar::uriRun(text));
+    ASSERT_EQ(co::simd::hostportRun(text), co::scalar::hostportRun(text));
     Placed<char32_t> copied(1, std::u32string(text.size() + 2, U'#'));
     co::simd::copy(&copied[1], text);
     ASSERT_EQ(copied.view(), U'#' + std::u32string(text) + U'#');
@@ -85,6 +86,9 @@ TEST(Simd, RunsOfUrisHaveTheirMembersAlone) {
             text[5] = ch;
             ASSERT_EQ(co::simd::uriRun(text), expected) << static_cast<uint32_t>(ch);
             ASSERT_EQ(co::scalar::uriRun(text), expected) << static_cast<uint32_t>(ch);
+            size_t const ofHostport = ch == U'@' ? 5 : expected;
+            ASSERT_EQ(co::simd::hostportRun(text), ofHostport) << static_cast<uint32_t>(ch);
+            ASSERT_EQ(co::scalar::hostportRun(text), ofHostport) << static_cast<uint32_t>(ch);
         }
 }
 
