@@ -36,7 +36,7 @@ struct Limits {
 
 Limits const full{{1000, 2000, 4000, 8000, 10000, 16000, 32000, 64000}, 2, 2.5, 1.5, 1.25, 10000, 100, 5};
 Limits const small{{250, 500, 1000, 2000}, 8, 20, 3, 3, 1000, 10000, 3};
-constexpr int attempts = 12;           // of a measurement that breaks a rule
+constexpr int attempts = 10;           // of a measurement that breaks a rule
 constexpr double shortestRun = 100e3;  // ns; shorter works are repeated
 constexpr int64_t fewBytes = 16 << 10; // what does not depend on the size, at most
 
