@@ -37,6 +37,7 @@ coBuffer *makeBuffer(int64_t capacity);
 
 // Room for `more` bytes behind the buffer's end, which the caller then fills and counts.
 uint8_t *appendSpace(coBuffer **buffer, int64_t more);
+
 // Copies bytes to where there is room for them; returns the end of what it wrote.
 inline uint8_t *put(uint8_t *to, std::string_view bytes) {
     if (!bytes.empty()) std::memcpy(to, bytes.data(), bytes.size());

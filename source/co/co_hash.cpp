@@ -7,6 +7,7 @@
 #include <co/co_assert.hpp>
 #include <co/co_hash.hpp>
 #include <sys/random.h>
+#include <type_traits>
 
 using co::Chars;
 
@@ -70,12 +71,13 @@ uint64_t settled(std::atomic<uint64_t> &half) {
 
 // Up to eight characters as the bytes of a word, the first one in the lowest; what is more than a byte of one shows in
 // `all` of them.
-static uint64_t packed(Chars text, coChar *all) {
+template <class Char> static uint64_t packed(std::basic_string_view<Char> text, coChar *all) {
     uint64_t word = 0;
     int shift = 0;
-    for (coChar const ch : text) {
-        *all |= ch;
-        word |= uint64_t{ch} << shift;
+    for (Char const ch : text) {
+        auto const code = static_cast<std::make_unsigned_t<Char>>(ch);
+        *all |= code;
+        word |= uint64_t{code} << shift;
         shift += 8;
     }
     return word;
@@ -98,21 +100,6 @@ uint64_t co::sipHash(HashKey key, Chars text) {
     return all < 0x80 ? state.finish() : hashWide(SipState(key), text);
 }
 
-static uint64_t packed(std::string_view bytes) {
-    uint64_t word = 0;
-    int shift = 0;
-    for (char const byte : bytes) {
-        word |= uint64_t{static_cast<uint8_t>(byte)} << shift;
-        shift += 8;
-    }
-    return word;
-}
-
-static uint64_t packed(Chars ascii) {
-    coChar all = 0;
-    return packed(ascii, &all);
-}
-
 // Of the eight US-ASCII characters of a word. Adding sets a byte's highest bit from a certain character on.
 static uint64_t lowerCase(uint64_t word) {
     constexpr uint64_t each = 0x0101010101010101;
@@ -121,10 +108,11 @@ static uint64_t lowerCase(uint64_t word) {
     return word | ((fromA ^ behindZ) & each * 0x80) >> 2;
 }
 
-template <class Text> static uint64_t hashInLowerCase(SipState state, Text ascii) {
+template <class Char> static uint64_t hashInLowerCase(SipState state, std::basic_string_view<Char> ascii) {
+    coChar all = 0; // is known
     size_t at = 0;
-    for (; at + 8 <= ascii.size(); at += 8) state.absorb(lowerCase(packed(ascii.substr(at, 8))));
-    state.absorb(lowerCase(packed(ascii.substr(at))) | static_cast<uint64_t>(ascii.size()) << 56);
+    for (; at + 8 <= ascii.size(); at += 8) state.absorb(lowerCase(packed(ascii.substr(at, 8), &all)));
+    state.absorb(lowerCase(packed(ascii.substr(at), &all)) | static_cast<uint64_t>(ascii.size()) << 56);
     return state.finish();
 }
 

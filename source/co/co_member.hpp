@@ -174,16 +174,16 @@ void keepText(WithLine const *obj, coChar const *line, TextSlot *slot, Chars tex
 
 template <class T> void keep(T *obj, TextSlot T::*slot, Chars text) { keepText(obj, lineOf(obj), &(obj->*slot), text); }
 
-// The same of a text that is a piece.
-template <class T> void keepPiece(T *obj, TextSlot T::*slot, Chars piece) {
-    if (obj->lineLength > longestLine) return (obj->*slot).adopt(makeString(piece));
-    (obj->*slot).setPiece(piece);
-}
-
 // The same of a text whose ASCII letters are to be lower case: a piece is changed where it stands.
 template <class T> void keepLower(T *obj, TextSlot T::*slot, Chars text) {
     keep(obj, slot, text);
     (obj->*slot).toAsciiLower();
+}
+
+// As keep, of a text that is known to be a piece.
+template <class T> void keepPiece(T *obj, TextSlot T::*slot, Chars piece) {
+    if (obj->lineLength > longestLine) return (obj->*slot).adopt(makeString(piece));
+    (obj->*slot).setPiece(piece);
 }
 
 // A new object that shares the members of another.
