@@ -2,8 +2,8 @@
 //
 // A type names its members twice at most: members() in declaration order, comparison() in the order that decides. A
 // member's class says which of its words hold references; what is not a reference is plain data, absent when it is zero
-// unless init() says otherwise. So making, copying and freeing are one function each for all types: the code that a
-// message runs through has to fit into the processor's cache.
+// unless init() says otherwise. What is common to all types is no template, and nothing that is seldom needed is written
+// out in one: the code that a message runs through has to fit into the processor's cache.
 #pragma once
 
 #include <co/co_obj.hpp>
@@ -17,7 +17,7 @@ namespace co {
 template <class T> class Slot {
 public:
     using Target = T;
-    static constexpr uint64_t references = 1; // its words that hold one, from the lowest bit on
+    static constexpr size_t references = 1; // how many of its first words hold one
 
     Slot() = default;
     constexpr explicit Slot(T *owned) : obj(owned) {}
@@ -48,7 +48,7 @@ private:
 // absent. A string of a piece is made for whoever asks for one, so that reading makes none that nobody looks at.
 class TextSlot {
 public:
-    static constexpr uint64_t references = 1;
+    static constexpr size_t references = 1;
 
     Chars view() const { return string ? string->view() : piece(); }
     explicit operator bool() const { return string || distance; }
@@ -97,7 +97,7 @@ template <class T> coChar *lineOf(T const *obj) { return reinterpret_cast<coChar
 // A signed 64-bit integer; -1 for absent.
 class Int {
 public:
-    static constexpr uint64_t references = 0;
+    static constexpr size_t references = 0;
 
     int64_t get() const { return number; }
     explicit operator bool() const { return number != -1; }
@@ -113,7 +113,7 @@ private:
 
 class Flag {
 public:
-    static constexpr uint64_t references = 0;
+    static constexpr size_t references = 0;
 
     bool get() const { return flag; }
     void set(bool value) { flag = value; }
@@ -124,24 +124,25 @@ private:
     bool flag;
 };
 
-// What is common to the types, over a bit for each word of an object that holds a reference.
+// What is common to the types.
 
 // A new object of the sort's size and a line, all zero behind its header.
 void *makeZeroed(coSort const *sort, int64_t lineLength);
-// A new object that shares the references of another, its line included.
-void *copyObject(coObj const *source, uint64_t references);
-// Gives up the references in the order of the words and leaves the all-ones pattern in their places.
-void freeReferences(coObj *obj, uint64_t references);
+// A new object of the same bytes, its line included, whose references are not counted yet.
+void *copyBytes(coObj const *source);
+void retainMember(coObj const *member);
+void releaseMember(coObj *member);
 
-inline constexpr size_t mostWords = 64;
+// Calls `use` with each word of a member that may hold a reference. Each slot has a type of its own, so that what stands
+// there is moved as bytes.
+template <class Member, class Use> void forEachReference(Member *member, Use use) {
+    for (size_t i = 0; i < Member::references; i++) use(reinterpret_cast<char *>(member) + i * sizeof(void *));
+}
 
-template <class T> uint64_t referencesOf(T const *obj) {
-    static_assert(sizeof(T) <= mostWords * sizeof(void *));
-    auto const bits = [obj]<class Owner, class Member>(Member Owner::*m) { // a base may own it
-        auto const distance = reinterpret_cast<char const *>(&(obj->*m)) - reinterpret_cast<char const *>(obj);
-        return Member::references << (static_cast<size_t>(distance) / sizeof(void *));
-    };
-    return std::apply([bits](auto... m) { return (bits(m) | ...); }, T::members());
+inline coObj *referenceIn(void const *word) {
+    coObj *member;
+    std::memcpy(&member, word, sizeof member);
+    return member;
 }
 
 template <class Member> void initUnlessZero(Member &member) {
@@ -187,10 +188,25 @@ template <class T> void keepPiece(T *obj, TextSlot T::*slot, Chars piece) {
 }
 
 // A new object that shares the members of another.
-template <class T> T *makeCopy(T const *source) { return static_cast<T *>(copyObject(source, referencesOf(source))); }
+template <class T> T *makeCopy(T const *source) {
+    auto *copied = static_cast<T *>(copyBytes(source));
+    auto const retainIn = [](void const *word) {
+        if (coObj const *member = referenceIn(word)) retainMember(member);
+    };
+    std::apply([&](auto... m) { (forEachReference(&(copied->*m), retainIn), ...); }, T::members());
+    return copied;
+}
 
 // Gives up the members and leaves the all-ones pattern in their slots.
-template <class T> void freeMembers(coObj *obj) { freeReferences(obj, referencesOf(static_cast<T *>(obj))); }
+template <class T> void freeMembers(coObj *obj) {
+    auto const releaseIn = [](void *word) {
+        coObj *const member = referenceIn(word);
+        coObj *const none = released<coObj>();
+        std::memcpy(word, &none, sizeof none);
+        if (member) releaseMember(member);
+    };
+    std::apply([&](auto... m) { (forEachReference(&(static_cast<T *>(obj)->*m), releaseIn), ...); }, T::members());
+}
 
 // The first difference decides.
 template <class T> int compareMembers(T const *a, T const *b) {

@@ -25,6 +25,30 @@ namespace co {
 // What ends a header part: the end of its last line, and the empty line.
 inline constexpr std::string_view emptyLine = "\r\n\r\n";
 
+// US-ASCII characters of which runs are searched for.
+struct Range {
+    char low;
+    char high;
+
+    constexpr bool has(coChar ch) const {
+        return ch >= static_cast<unsigned char>(low) && ch <= static_cast<unsigned char>(high);
+    }
+};
+
+template <Range... ranges> struct RangesOf {
+    static constexpr bool has(coChar ch) { return (ranges.has(ch) || ...); }
+};
+
+// All others, those beyond US-ASCII included.
+template <class Set> struct AllBut {
+    static constexpr bool has(coChar ch) { return !Set::has(ch); }
+};
+
+// What the texts that are named mostly consist of. It decides nothing: who searches looks at what follows.
+using HostportChars = RangesOf<Range{'a', 'z'}, Range{'A', 'Z'}, Range{'-', ':'}>;
+using UriChars = RangesOf<Range{'a', 'z'}, Range{'@', 'Z'}, Range{'-', ';'}, Range{'=', '='}>;
+using TokenChars = RangesOf<Range{'_', 'z'}, Range{'A', 'Z'}, Range{'0', '9'}, Range{'-', '.'}>;
+
 } // namespace co
 
 namespace co::scalar {
@@ -89,23 +113,10 @@ inline size_t asciiRun(std::u32string_view text) {
     return count;
 }
 
-constexpr bool isInRange(coChar ch, char low, char high) {
-    return ch >= static_cast<unsigned char>(low) && ch <= static_cast<unsigned char>(high);
-}
-
-constexpr bool isOfHostport(coChar ch) { return isInRange(ch | 0x20, 'a', 'z') || isInRange(ch, '-', ':'); }
-
-// How many leading characters are letters, digits, "-", ".", "/" and ":".
-[[gnu::noinline]] inline size_t hostportRun(std::u32string_view text) {
+// How many leading characters are members. Apart, so that its loop is not unrolled wherever it is used.
+template <class Members> [[gnu::noinline]] inline size_t run(std::u32string_view text) {
     size_t count = 0;
-    while (count < text.size() && isOfHostport(text[count])) count++;
-    return count;
-}
-
-// The same with "@": what URIs mostly are.
-[[gnu::noinline]] inline size_t uriRun(std::u32string_view text) {
-    size_t count = 0;
-    while (count < text.size() && (isOfHostport(text[count]) || text[count] == U'@')) count++;
+    while (count < text.size() && Members::has(text[count])) count++;
     return count;
 }
 
@@ -197,11 +208,11 @@ inline bool isAscii(Block fourChars) {
     return highBits(_mm_cmpeq_epi32(beyond, _mm_setzero_si128())) == 0xFFFF;
 }
 
-// Sixteen code points as bytes; those beyond a byte become some byte that is no US-ASCII character but NUL.
-inline Block narrowed(coChar const *at) {
-    Block const low = _mm_packs_epi32(load(at), load(at + 4));
-    Block const high = _mm_packs_epi32(load(at + 8), load(at + 12));
-    return _mm_packus_epi16(low, high);
+// Twice eight code points as bytes; those beyond a byte become some byte that is no US-ASCII character but NUL.
+inline Block narrowed(coChar const *low, coChar const *high) {
+    Block const lowPairs = _mm_packs_epi32(load(low), load(low + 4));
+    Block const highPairs = _mm_packs_epi32(load(high), load(high + 4));
+    return _mm_packus_epi16(lowPairs, highPairs);
 }
 
 inline void narrowOnce(uint8_t *bytes, Block low, Block high) {
@@ -253,9 +264,10 @@ inline void widenOnce(coChar *chars, char const *ascii) {
 
 inline bool isAscii(Block fourChars) { return vmaxvq_u32(vreinterpretq_u32_u8(fourChars)) < 0x80; }
 
-inline Block narrowed(coChar const *at) {
-    auto const four = [=](size_t i) { return vqmovn_u32(vreinterpretq_u32_u8(load(at + i))); };
-    return vcombine_u8(vqmovn_u16(vcombine_u16(four(0), four(4))), vqmovn_u16(vcombine_u16(four(8), four(12))));
+inline Block narrowed(coChar const *low, coChar const *high) {
+    auto const four = [](coChar const *at) { return vqmovn_u32(vreinterpretq_u32_u8(load(at))); };
+    auto const eight = [=](coChar const *at) { return vqmovn_u16(vcombine_u16(four(at), four(at + 4))); };
+    return vcombine_u8(eight(low), eight(high));
 }
 
 inline void narrowOnce(uint8_t *bytes, Block low, Block high) {
@@ -353,21 +365,29 @@ inline size_t findEmptyLine(std::string_view text, size_t from) {
     return firstEmptyLine(text, from, behind(ends, stepSize - left));
 }
 
-// With what stands before the capital letters.
-template <char low> size_t runFrom(std::u32string_view text) {
-    return firstPlace(text.size(), [=](size_t at) {
-        Block const bytes = narrowed(text.data() + at);
-        Block const letters = either(inRange(bytes, 'a', 'z'), inRange(bytes, low, 'Z'));
-        return highBits(equal(either(letters, inRange(bytes, '-', ':')), '\0'));
-    });
+template <class... Blocks> Block eitherOf(Block first, Blocks... others) {
+    ((first = either(first, others)), ...);
+    return first;
 }
-
-inline size_t hostportRun(std::u32string_view text) {
-    return text.size() < blockSize ? scalar::hostportRun(text) : runFrom<'A'>(text);
+template <Range... ranges> Block membersOf(RangesOf<ranges...> /*set*/, Block bytes) {
+    return eitherOf(inRange(bytes, ranges.low, ranges.high)...);
 }
+template <class Set> Block othersThan(Set set, Block bytes) { return equal(membersOf(set, bytes), '\0'); }
+template <class Set> Block othersThan(AllBut<Set> /*set*/, Block bytes) { return membersOf(Set{}, bytes); }
 
-inline size_t uriRun(std::u32string_view text) {
-    return text.size() < blockSize ? scalar::uriRun(text) : runFrom<'@'>(text);
+// Of a text that is shorter than a block the halves overlap.
+template <class Members> size_t run(std::u32string_view text) {
+    if (text.size() < wideSize) return scalar::run<Members>(text);
+    auto const others = [](coChar const *low, coChar const *high) {
+        return highBits(othersThan(Members{}, narrowed(low, high)));
+    };
+    coChar const *const start = text.data();
+    if (text.size() >= blockSize)
+        return firstPlace(text.size(), [=](size_t at) { return others(start + at, start + at + wideSize); });
+    size_t const half = text.size() - wideSize;
+    Mask const mask = others(start, start + half);
+    if (mask == 0) return text.size();
+    return first(mask) < wideSize ? first(mask) : first(mask) - wideSize + half;
 }
 
 inline size_t asciiRun(std::string_view text) {
@@ -410,9 +430,15 @@ inline void copy(coChar *to, std::u32string_view text) {
 // Where a compiler takes a place for cold it makes a string instruction of memset, which starts slowly, and what reads the
 // zeroes next waits for it.
 inline void clearWords(char *words, size_t count) {
-    char const *const end = words + 8 * count;
-    for (; end - words >= 16; words += 16) store(words, zeroes());
-    if (words < end) std::memset(words, 0, 8);
+    constexpr size_t step = 4; // words that are set at once
+    auto const clear = [](char *place) {
+        store(place, zeroes());
+        store(place + blockSize, zeroes());
+    };
+    if (count < step) return scalar::clearWords(words, count);
+    char *const last = words + 8 * (count - step);
+    for (; words < last; words += 8 * step) clear(words);
+    clear(last);
 }
 
 inline void widen(coChar *chars, std::string_view ascii) {

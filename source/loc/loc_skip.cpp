@@ -150,11 +150,11 @@ int64_t anySipPartLength(Chars text, coChar end) {
 // Whether a SIP URI may go on with a character that is none of the usual ones.
 bool maySipPartGoOn(coChar ch) { return ch == U',' || ch == U'?' || ch == U'%' || ch == U'#' || ch >= 128; }
 
-int64_t sipPartLength(Chars text, coChar end) {
-    constexpr size_t worthwhile = 16;
-    auto const begin = static_cast<int64_t>(text.size() < worthwhile ? 0 : co::simd::uriRun(text));
+int64_t sipPartLength(Chars text, coChar end, bool *hasNoEscapes) {
+    auto const begin = static_cast<int64_t>(co::simd::run<co::UriChars>(text));
     Chars const usual(text.data(), static_cast<size_t>(runOf(isUsualInSip, text, begin)));
     if (usual.size() < text.size() && maySipPartGoOn(text[usual.size()])) return anySipPartLength(text, end);
+    if (hasNoEscapes) *hasNoEscapes = true;
     return co::length(end == loc::noChar ? usual : usual.substr(0, usual.find(end)));
 }
 
@@ -170,10 +170,11 @@ int64_t sipPartLength(Chars text, coChar end) {
 
 } // namespace
 
-int64_t loc::iriLength(Chars text, coChar end) {
+int64_t loc::iriLength(Chars text, coChar end, bool *hasNoEscapes) {
     constexpr Chars sip = U"sip:"; // nearly always
+    if (hasNoEscapes) *hasNoEscapes = false;
     if (!text.starts_with(sip)) return anyIriLength(text, end);
-    int64_t const length = sipPartLength(text.substr(sip.size()), end);
+    int64_t const length = sipPartLength(text.substr(sip.size()), end, hasNoEscapes);
     return length == 0 ? 0 : co::length(sip) + length;
 }
 

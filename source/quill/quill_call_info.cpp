@@ -45,7 +45,7 @@ struct coString *quill___CallInfoEncode(struct quillCallInfo const *callInfo) {
 }
 
 static bool readCallInfo(quillCallInfo *callInfo, co::Chars *line) {
-    co::Chars uri;
+    quill::Uri uri;
     int64_t const count = quill::takeBracketedUri(*line, &uri);
     if (count == 0) return false;
     quill::keepIri(callInfo, uri);

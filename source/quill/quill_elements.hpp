@@ -19,7 +19,7 @@ struct Piece {
 
 class Elements {
 public:
-    static constexpr uint64_t references = 0b111;
+    static constexpr size_t references = 3;
 
     bool arePieces() const { return pieceCount > 0; }
     int64_t count() const { return strings ? strings->length : pieceCount; }

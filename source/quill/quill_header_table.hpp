@@ -80,7 +80,7 @@ struct HeaderEntry {
 // A member of the fragment like a co::Slot: copies share, changes make private.
 class HeaderTable {
 public:
-    static constexpr uint64_t references = 1;
+    static constexpr size_t references = 1;
 
     // Reads header lines into an empty table: all of them, or those up to an empty line. What follows that line stays. False
     // where a line is none of a header, or not UTF-8. Many bytes are kept in the buffer that they are in, where it is given.

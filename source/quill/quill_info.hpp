@@ -31,7 +31,7 @@
 namespace quill {
 
 struct Info {
-    co::Chars uri;
+    Uri uri;
     co::Ref<quillGenericParams> genericParams;
 };
 
@@ -46,7 +46,7 @@ inline bool tryReadInfo(co::Chars text, Info *info) {
 
 template <class T> T *makeInfo(Info *info) {
     T *value = co::make<T>();
-    value->iri.adopt(loc::makeIri(info->uri));
+    value->iri.adopt(loc::makeIri(info->uri.text));
     value->genericParams.adopt(info->genericParams.take());
     return value;
 }

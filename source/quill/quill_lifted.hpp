@@ -201,8 +201,12 @@ template <class T, class... Rows> co::Chars readParams(T *value, co::Chars rest,
         int64_t const separator = matched(rules::semi(text));
         if (separator == 0) break;
         text = from(text, separator);
+        coChar const initial = text.empty() ? U'\0' : co::asciiLower(text[0]);
         int64_t count = 0;
-        std::apply([&](auto const &...row) { static_cast<void>(((count = row.take(value, text)) || ...)); }, lifted);
+        auto const isTaken = [&](auto const &row) { // mostly the first letter says that it is not
+            return row.name[0] == initial && (count = row.take(value, text)) > 0;
+        };
+        std::apply([&](auto const &...row) { static_cast<void>((isTaken(row) || ...)); }, lifted);
         if (count == 0) count = takeGenericParam(value->genericParams.address(), text);
         if (count == 0) break;
         rest = from(text, count);

@@ -13,7 +13,7 @@ namespace quill {
 // what it read. The list is kept, so that nothing changes it, and no string is made of a line that nobody asks for.
 class HeaderLines {
 public:
-    static constexpr uint64_t references = 0b11;
+    static constexpr size_t references = 2;
 
     int64_t length() const { return strings ? strings->length : elements->count(); }
     // The text of a line, and a string of it, owned by the caller. There must be such a line.

@@ -12,25 +12,47 @@
 
 namespace quill {
 
-int64_t takeBracketedUri(co::Chars text, co::Chars *uri) {
-    Reader reader{text};
-    reader.take(rules::laquot);
-    *uri = reader.take([](co::Chars rest) { return loc::iriLength(rest); });
-    reader.take(rules::raquot);
-    return reader.failed ? 0 : co::length(text) - co::length(reader.rest);
+int64_t takeBracketedUri(co::Chars text, Uri *uri) {
+    int64_t const opening = text.starts_with(U'<') ? 1 : matched(rules::laquot(text));
+    if (opening == 0) return 0;
+    co::Chars const rest = from(text, opening);
+    int64_t const length = loc::iriLength(rest, loc::noChar, &uri->isPlain);
+    uri->text = upTo(rest, length);
+    int64_t const closing = length ? matched(rules::raquot(from(rest, length))) : 0;
+    return closing ? opening + length + closing : 0;
+}
+
+// A display name as most are: one in quotes without escapes, or one token before a bracket. How many code points it is,
+// 0 where it is anything else, or none.
+static int64_t measureUsualName(co::Chars text, co::Chars *plain) {
+    if (text.starts_with(U'"')) {
+        co::Chars const quoted = from(text, 1);
+        *plain = upTo(quoted, rules::qdtexts(quoted));
+        return from(quoted, co::length(*plain)).starts_with(U'"') ? co::length(*plain) + 2 : 0;
+    }
+    *plain = upTo(text, matched(rules::token(text)));
+    int64_t const length = co::length(*plain) + rules::sws(from(text, co::length(*plain)));
+    return !plain->empty() && from(text, length).starts_with(U'<') ? length : 0;
+}
+
+static int64_t measureName(co::Chars text, NameAddr *address) {
+    int64_t const usual = measureUsualName(text, &address->plainName);
+    address->isNamePlain = usual > 0;
+    return usual > 0 ? usual : measure(quill___SkipDisplayName, text);
 }
 
 int64_t measureNameAddr(co::Chars text, Bare bare, NameAddr *address) {
-    int64_t const displayName = measure(quill___SkipDisplayName, text);
+    int64_t const displayName = text.starts_with(U'<') ? 0 : measureName(text, address);
+    address->displayName = upTo(text, displayName);
     co::Chars const rest = from(text, displayName);
-    if (rules::laquot(rest) > 0) {
-        address->displayName = upTo(text, displayName);
+    if (rest.starts_with(U'<') || rules::laquot(rest) > 0) {
         int64_t const brackets = takeBracketedUri(rest, &address->uri);
         return brackets ? displayName + brackets : 0;
     }
     if (bare == Bare::refused) return 0;
-    int64_t const uri = measure(quill___SkipAddrSpec, text);
-    address->uri = upTo(text, uri);
+    address->displayName = {};
+    int64_t const uri = loc::iriLength(text, U';', &address->uri.isPlain);
+    address->uri.text = upTo(text, uri);
     return uri;
 }
 
@@ -38,18 +60,6 @@ coString *decodeDisplayName(co::Chars written) {
     coString *displayName = quill___DisplayNameTryDecode(written.data(), co::length(written));
     CO_ASSERT(displayName, "displayName"); // what the scanner takes can be read
     return displayName;
-}
-
-// In quotes without escapes, or one token: several have their blanks between them made one each.
-bool isPlainDisplayName(co::Chars written, co::Chars *plain) {
-    co::Chars const text = written.substr(static_cast<size_t>(rules::sws(written)));
-    if (text.starts_with(U'"')) {
-        *plain = text.substr(1, text.size() - 2);
-        return text.find(U'\\') == co::Chars::npos;
-    }
-    *plain = upTo(text, matched(rules::token(text)));
-    co::Chars const behind = from(text, co::length(*plain));
-    return rules::sws(behind) == co::length(behind);
 }
 
 void appendBracketedIri(coString **text, co::TextSlot const &iri) {

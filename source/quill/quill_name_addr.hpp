@@ -12,20 +12,24 @@ namespace quill {
 
 enum class Bare { allowed, refused }; // an addr-spec without brackets
 
+struct Uri {
+    co::Chars text;
+    bool isPlain; // was seen to have no escapes, so that it is its own IRI
+};
+
 // An address as it is written.
 struct NameAddr {
     co::Chars displayName; // empty where there is none
-    co::Chars uri;
+    co::Chars plainName;   // what it says where it says the same without quotes
+    bool isNamePlain;      // or else it must be decoded
+    Uri uri;
 };
 
 // How many code points at the start of the text the address takes; 0 where there is none, or none that can be an IRI.
 int64_t measureNameAddr(co::Chars text, Bare bare, NameAddr *address);
 
 // LAQUOT URI RAQUOT
-int64_t takeBracketedUri(co::Chars text, co::Chars *uri);
-
-// The text of a display name that says the same when it stands without quotes; false where it must be decoded.
-bool isPlainDisplayName(co::Chars written, co::Chars *plain);
+int64_t takeBracketedUri(co::Chars text, Uri *uri);
 
 // What a display name says that the scanner took.
 coString *decodeDisplayName(co::Chars written);
@@ -48,21 +52,20 @@ template <class T> T *makeAddress(coString *iri) {
 }
 
 // Most URIs are their own IRIs.
-template <class T> void keepIri(T *value, co::Chars uri) {
-    if (!co::simd::contains(uri, U'%'))
-        co::keep(value, &T::iri, uri);
+template <class T> void keepIri(T *value, Uri const &uri) {
+    if (uri.isPlain || !co::simd::contains(uri.text, U'%'))
+        co::keep(value, &T::iri, uri.text);
     else
-        value->iri.adopt(loc::makeIri(uri));
-}
-
-template <class T> void keepDisplayName(T *value, co::Chars written) {
-    if (co::Chars plain; isPlainDisplayName(written, &plain)) return co::keep(value, &T::displayName, plain);
-    value->displayName.adopt(decodeDisplayName(written));
+        value->iri.adopt(loc::makeIri(uri.text));
 }
 
 template <class T> void keepNameAddr(T *value, NameAddr const &address) {
     keepIri(value, address.uri);
-    if (!address.displayName.empty()) keepDisplayName(value, address.displayName);
+    if (address.displayName.empty()) return;
+    if (address.isNamePlain)
+        co::keep(value, &T::displayName, address.plainName);
+    else
+        value->displayName.adopt(decodeDisplayName(address.displayName));
 }
 
 // The address at the start of the text into the value; how many code points it takes, 0 for none.

@@ -72,15 +72,26 @@ inline bool isWhole(Scanner skip, co::Chars text) {
 
 constexpr bool isWithin(int64_t value, int64_t least, int64_t most) { return value >= least && value <= most; }
 
-inline int64_t decodeDecimal(coChar const *chs, int64_t length, bool (*ok)(int64_t)) {
+// 1*DIGIT at the start of a text: how many they are, 0 for none, and their number, -1 for one that the validator refuses
+// or that is too large.
+inline int64_t takeDecimal(co::Chars text, bool (*ok)(int64_t), int64_t *value) {
     constexpr int64_t digitsThatFit = 18;
-    int64_t value = 0;
+    coChar const *const chs = text.data();
+    uint64_t number = 0;
     int64_t digits = 0;
-    while (digits < length && chs[digits] >= U'0' && chs[digits] <= U'9' && digits < digitsThatFit)
-        value = value * 10 + static_cast<int64_t>(chs[digits++] - U'0');
-    if (digits > 0 && digits == length) return ok(value) ? value : -1; // as nearly always
+    for (; digits < co::length(text) && chs[digits] >= U'0' && chs[digits] <= U'9'; digits++)
+        number = number * 10 + (chs[digits] - U'0');
+    *value = static_cast<int64_t>(number);
+    bool const fits = digits <= digitsThatFit || coFormatTryDecodeIntChars(chs, digits, 10, value, &digits);
+    if (!fits || !ok(*value)) *value = -1;
+    return digits;
+}
 
-    int64_t charsRead = 0;
+// What the whole text is, which may begin with a minus.
+inline int64_t decodeDecimal(coChar const *chs, int64_t length, bool (*ok)(int64_t)) {
+    int64_t value;
+    int64_t charsRead = takeDecimal(co::chars(chs, length), ok, &value);
+    if (charsRead > 0 && charsRead == length) return value; // as nearly always
     bool const whole = coFormatTryDecodeIntChars(chs, length, 10, &value, &charsRead) && charsRead == length;
     return whole && ok(value) ? value : -1;
 }

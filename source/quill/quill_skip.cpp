@@ -106,17 +106,12 @@ QUILL_RULE(atom, run(isAtom))
 QUILL_DEFINE_SKIP(Atom, atom)
 
 // word = 1*( token's characters / "(" / ")" / "<" / ">" / ":" / "\" / DQUOTE / "/" / "[" / "]" / "?" / "{" / "}" )
-// Long ones mostly are letters, digits, "-" and ".".
-static constexpr auto word = [](Chars text) -> int64_t {
-    constexpr size_t worthwhile = 16;
-    auto const begin = static_cast<int64_t>(text.size() < worthwhile ? 0 : co::simd::hostportRun(text));
-    return nonEmpty(begin + span(from(text, begin), isWord));
-};
+QUILL_RULE(word, runOfMostly<co::HostportChars>(isWord))
 QUILL_DEFINE_SKIP(Word, word)
 
 QUILL_DEFINE_SKIP(Digits, digits)
 
-QUILL_DEFINE_SKIP_AS(Branch, quill___SkipToken)
+QUILL_DEFINE_SKIP(Branch, longToken)
 QUILL_DEFINE_SKIP_AS(ContentCoding, quill___SkipToken)
 QUILL_DEFINE_SKIP_AS(DispositionType, quill___SkipToken)
 QUILL_DEFINE_SKIP_AS(EmParam, quill___SkipToken)
@@ -133,7 +128,7 @@ QUILL_DEFINE_SKIP_AS(Pseudonym, quill___SkipToken)
 QUILL_DEFINE_SKIP_AS(Purpose, quill___SkipToken)
 QUILL_DEFINE_SKIP_AS(ReasonProtocol, quill___SkipToken)
 QUILL_DEFINE_SKIP_AS(SubstateValue, quill___SkipToken)
-QUILL_DEFINE_SKIP_AS(Tag, quill___SkipToken)
+QUILL_DEFINE_SKIP(Tag, longToken)
 QUILL_DEFINE_SKIP_AS(Transport, quill___SkipToken)
 
 QUILL_DEFINE_SKIP_AS(DeltaSeconds, quill___SkipDigits)
@@ -167,8 +162,7 @@ static constexpr auto quotedPair = [](Chars text) -> int64_t {
 };
 
 // quoted-string = SWS DQUOTE *( qdtext / quoted-pair ) DQUOTE
-QUILL_RULE(qdtext, run([](coChar ch) { return ch != U'"' && ch != U'\\' && !isLineEnd(ch); }))
-QUILL_RULE(quotedString, sequence(ldquot, repeated(firstOf(qdtext, quotedPair)), oneOf(U'"')))
+QUILL_RULE(quotedString, sequence(ldquot, repeated(firstOf(qdtexts, quotedPair)), oneOf(U'"')))
 QUILL_DEFINE_SKIP(QuotedString, quotedString)
 
 // comment = LPAREN *( ctext / quoted-pair / comment ) RPAREN
@@ -231,7 +225,7 @@ QUILL_DEFINE_SKIP(DomainLabel, domainLabel)
 // hostname = domainlabel *( "." domainlabel ) [ "." ], in one pass: a label begins and ends with an alphanum or an escape,
 // so a dot or a hyphen may follow one of them alone, a hyphen another hyphen too. What is left open at the end, hyphens
 // but not the dot, doesn't count.
-static int64_t hostnameLength(Chars text, bool *isOrdinary) {
+static int64_t anyHostnameLength(Chars text, bool *isOrdinary) {
     constexpr size_t shortLabel = 63;
     size_t closed = 0; // behind the last label that ends well
     bool hasEscapes = false;
@@ -253,6 +247,21 @@ static int64_t hostnameLength(Chars text, bool *isOrdinary) {
     if (closed > 0 && closed < text.size() && text[closed] == U'.') closed++;
     if (isOrdinary) *isOrdinary = closed <= shortLabel && !hasEscapes && !hasTwoHyphens;
     return nonEmpty(static_cast<int64_t>(closed));
+}
+
+// Most are labels of alphanums alone, with dots between them.
+static int64_t hostnameLength(Chars text, bool *isOrdinary) {
+    constexpr int64_t shortLabel = 63;
+    int64_t at = span(text, isAlphanum);
+    while (at > 0 && at + 1 < co::length(text) && text[static_cast<size_t>(at)] == U'.') {
+        int64_t const label = span(from(text, at + 1), isAlphanum);
+        if (label == 0) break;
+        at += 1 + label;
+    }
+    coChar const next = at < co::length(text) ? text[static_cast<size_t>(at)] : U'\0';
+    if (at == 0 || next == U'.' || next == U'-' || next == U'%') return anyHostnameLength(text, isOrdinary);
+    if (isOrdinary) *isOrdinary = at <= shortLabel;
+    return at;
 }
 
 static constexpr auto hostname = [](Chars text) { return hostnameLength(text, nullptr); };

@@ -11,6 +11,7 @@
 #pragma once
 
 #include <co/co_scan.hpp>
+#include <co/co_simd.hpp>
 #include <co/co_unicode.hpp>
 #include <quill/quill_char.hpp>
 
@@ -43,6 +44,14 @@ template <class Class> constexpr int64_t span(Chars text, Class isMember) {
 // 1*member
 template <class Class> constexpr auto run(Class isMember) {
     return [isMember](Chars text) { return nonEmpty(span(text, isMember)); };
+}
+
+// The same, where nearly all of them are of a set that is searched in blocks.
+template <class Usual, class Class> constexpr auto runOfMostly(Class isMember) {
+    return [isMember](Chars text) {
+        auto const begin = static_cast<int64_t>(co::simd::run<Usual>(text));
+        return nonEmpty(begin + span(from(text, begin), isMember));
+    };
 }
 
 // *( member / escaped ), escaped = "%" HEXDIG HEXDIG
@@ -197,6 +206,14 @@ inline constexpr auto rdquot = charSws(U'"');
 
 inline constexpr auto digits = run(isDigit);
 inline constexpr auto token = run(isToken);
+inline constexpr auto longToken = runOfMostly<co::TokenChars>(isToken); // that seldom has less than eight characters
+
+// *qdtext: what stands in a quoted string without being escaped
+inline constexpr auto qdtexts = [](Chars text) {
+    using Others =
+        co::RangesOf<co::Range{'"', '"'}, co::Range{'\\', '\\'}, co::Range{'\n', '\n'}, co::Range{'\r', '\r'}>;
+    return static_cast<int64_t>(co::simd::run<co::AllBut<Others>>(text));
+};
 
 // protocol-name SLASH protocol-version
 inline constexpr auto version = [](Chars text) -> int64_t { return sequence(token, slash, token)(text); };

@@ -262,10 +262,11 @@ bool takePort(quillVia *via, quill::Reader *reader) {
     int64_t const colon = quill::rules::colon(reader->rest);
     if (colon < 0) return true;
     reader->rest = quill::from(reader->rest, colon);
-    co::Chars const port = reader->take(quill::rules::digits);
-    if (reader->failed) return false;
-    via->port.set(quill___PortTryDecode(port.data(), co::length(port)));
-    return static_cast<bool>(via->port);
+    int64_t port;
+    int64_t const digits = quill::takeDecimal(reader->rest, quillPortOk, &port);
+    reader->rest = quill::from(reader->rest, digits);
+    via->port.set(port);
+    return digits > 0 && via->port;
 }
 
 } // namespace

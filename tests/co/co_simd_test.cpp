@@ -67,39 +67,44 @@ void expectSameOfChars(std::u32string_view text) {
     ASSERT_EQ(narrowed.view(), expected.view());
     for (coChar wanted : {U'%', U'\x80', U'\x10FFFF', U'\0'})
         ASSERT_EQ(co::simd::contains(text, wanted), co::scalar::contains(text, wanted));
-    ASSERT_EQ(co::simd::uriRun(text), co::scalar::uriRun(text));
-    ASSERT_EQ(co::simd::hostportRun(text), co::scalar::hostportRun(text));
+    ASSERT_EQ(co::simd::run<co::UriChars>(text), co::scalar::run<co::UriChars>(text));
+    ASSERT_EQ(co::simd::run<co::HostportChars>(text), co::scalar::run<co::HostportChars>(text));
+    ASSERT_EQ(co::simd::run<co::TokenChars>(text), co::scalar::run<co::TokenChars>(text));
     Placed<char32_t> copied(1, std::u32string(text.size() + 2, U'#'));
     co::simd::copy(&copied[1], text);
     ASSERT_EQ(copied.view(), U'#' + std::u32string(text) + U'#');
 }
 
-// Whatever a code point's higher bits are.
-TEST(Simd, RunsOfUrisHaveTheirMembersAlone) {
-    constexpr std::u32string_view members = U"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-./:@";
+// Of texts of one block, and of two halves that overlap; whatever a code point's higher bits are.
+template <class Set> void expectMembersAlone(std::u32string_view members) {
     for (coChar low = 0; low < 0x200; low++)
         for (coChar high :
-             {0u, 0x7E00u, 0x7F00u, 0x8000u, 0xFF00u, 0x10000u, 0x10FF00u, 0x7FFF0000u, 0x80000000u, ~0x1FFu}) {
-            coChar const ch = high | low;
-            size_t const expected = members.find(ch) == members.npos ? 5 : 16;
-            std::u32string text(16, U'a');
-            text[5] = ch;
-            ASSERT_EQ(co::simd::uriRun(text), expected) << static_cast<uint32_t>(ch);
-            ASSERT_EQ(co::scalar::uriRun(text), expected) << static_cast<uint32_t>(ch);
-            size_t const ofHostport = ch == U'@' ? 5 : expected;
-            ASSERT_EQ(co::simd::hostportRun(text), ofHostport) << static_cast<uint32_t>(ch);
-            ASSERT_EQ(co::scalar::hostportRun(text), ofHostport) << static_cast<uint32_t>(ch);
-        }
+             {0u, 0x7E00u, 0x7F00u, 0x8000u, 0xFF00u, 0x10000u, 0x10FF00u, 0x7FFF0000u, 0x80000000u, ~0x1FFu})
+            for (size_t size : {size_t{7}, size_t{8}, size_t{11}, size_t{16}}) {
+                coChar const ch = high | low;
+                bool const isMember = members.find(ch) != members.npos;
+                std::u32string text(size, U'a');
+                text[5] = ch;
+                ASSERT_EQ(co::simd::run<Set>(text), isMember ? size : 5) << static_cast<uint32_t>(ch);
+                ASSERT_EQ(co::scalar::run<Set>(text), isMember ? size : 5) << static_cast<uint32_t>(ch);
+            }
 }
 
-TEST(Simd, RunsOfUrisEndAtEachPlaceOfEachLength) {
+TEST(Simd, RunsHaveTheirMembersAlone) {
+    std::u32string const alphanum = U"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+    expectMembersAlone<co::UriChars>(alphanum + U"-./:;=@");
+    expectMembersAlone<co::HostportChars>(alphanum + U"-./:");
+    expectMembersAlone<co::TokenChars>(alphanum + U"-._`");
+}
+
+TEST(Simd, RunsEndAtEachPlaceOfEachLength) {
     for (size_t size = 0; size <= 70; size++)
         for (size_t alignment = 0; alignment < 4; alignment++) {
             Placed<coChar> text(alignment, std::u32string(size, U'z'));
-            ASSERT_EQ(co::simd::uriRun(text.view()), size);
+            ASSERT_EQ(co::simd::run<co::UriChars>(text.view()), size);
             for (size_t at = 0; at < size; at++) {
                 text[at] = U'>';
-                ASSERT_EQ(co::simd::uriRun(text.view()), at) << size;
+                ASSERT_EQ(co::simd::run<co::UriChars>(text.view()), at) << size;
                 text[at] = U'@';
             }
         }
@@ -161,7 +166,7 @@ TEST(Simd, FindsLineEndsAtEachPlace) {
 }
 
 TEST(Simd, ClearsWordsAndNoMore) {
-    for (size_t count = 0; count < 10; count++) {
+    for (size_t count = 0; count < 20; count++) {
         std::string bytes(count * wordSize + 1, '#');
         co::simd::clearWords(bytes.data(), count);
         ASSERT_EQ(bytes, std::string(count * wordSize, '\0') + '#');
