@@ -15,10 +15,10 @@
 struct quillAccept : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_ACCEPT;
 
-    co::TextSlot mediaType;                     // lower case, absent for "*"
-    co::TextSlot mediaSubtype;                  // lower case, absent for "*"
-    co::Slot<quillGenericParams> genericParams; // never null
-    co::Int qvalue;                             // thousandths
+    co::TextSlot mediaType;    // lower case, absent for "*"
+    co::TextSlot mediaSubtype; // lower case, absent for "*"
+    quill::ParamsSlot genericParams;
+    co::Int qvalue; // thousandths
 
     static constexpr auto members() {
         return std::tuple(&quillAccept::mediaType, &quillAccept::mediaSubtype, &quillAccept::genericParams,
@@ -40,7 +40,6 @@ CO_DEFINE_OPTIONAL_INT_MEMBER(quillAccept, accept, Qvalue, qvalue, quillQvalueOk
 
 struct quillAccept *quillAcceptCreate(void) {
     auto *accept = co::make<quillAccept>();
-    accept->genericParams.set(quill::noGenericParams());
     return accept;
 }
 

@@ -11,9 +11,9 @@
 struct quillAcceptEncoding : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_ACCEPT_ENCODING;
 
-    co::TextSlot contentCoding;                 // lower case, absent for "*"
-    co::Slot<quillGenericParams> genericParams; // never null
-    co::Int qvalue;                             // thousandths
+    co::TextSlot contentCoding; // lower case, absent for "*"
+    quill::ParamsSlot genericParams;
+    co::Int qvalue; // thousandths
 
     static constexpr auto members() {
         return std::tuple(&quillAcceptEncoding::contentCoding, &quillAcceptEncoding::genericParams,
@@ -34,7 +34,6 @@ CO_DEFINE_OPTIONAL_INT_MEMBER(quillAcceptEncoding, acceptEncoding, Qvalue, qvalu
 
 struct quillAcceptEncoding *quillAcceptEncodingCreate(void) {
     auto *acceptEncoding = co::make<quillAcceptEncoding>();
-    acceptEncoding->genericParams.set(quill::noGenericParams());
     return acceptEncoding;
 }
 

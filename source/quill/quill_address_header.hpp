@@ -36,7 +36,7 @@
         static constexpr auto &sort = quill___sort_QUILL_HEADER_##SORT;                                                \
         co::TextSlot iri; /* never null */                                                                             \
         co::TextSlot displayName;                                                                                      \
-        co::Slot<quillGenericParams> genericParams; /* never null */                                                   \
+        quill::ParamsSlot genericParams;                                                                               \
         static constexpr auto members() {                                                                              \
             return std::tuple(&quillHeader##Type::iri, &quillHeader##Type::displayName,                                \
                               &quillHeader##Type::genericParams);                                                      \
@@ -58,7 +58,7 @@
         co::TextSlot displayName;                                                                                      \
         co::TextSlot tag;                                                                                              \
         co::TextSlot epid;                                                                                             \
-        co::Slot<quillGenericParams> genericParams; /* never null */                                                   \
+        quill::ParamsSlot genericParams;                                                                               \
         static constexpr auto members() {                                                                              \
             return std::tuple(&quillHeader##Type::iri, &quillHeader##Type::displayName, &quillHeader##Type::tag,       \
                               &quillHeader##Type::epid, &quillHeader##Type::genericParams);                            \

@@ -8,8 +8,8 @@
 struct quillAlertInfo : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_ALERT_INFO;
 
-    co::TextSlot iri;                           // never null
-    co::Slot<quillGenericParams> genericParams; // never null
+    co::TextSlot iri; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() { return std::tuple(&quillAlertInfo::iri, &quillAlertInfo::genericParams); }
     static constexpr auto comparison() { return members(); }

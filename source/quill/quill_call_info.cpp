@@ -11,9 +11,9 @@
 struct quillCallInfo : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_CALL_INFO;
 
-    co::TextSlot iri;                           // never null
-    co::TextSlot purpose;                       // lower case
-    co::Slot<quillGenericParams> genericParams; // never null
+    co::TextSlot iri;     // never null
+    co::TextSlot purpose; // lower case
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillCallInfo::iri, &quillCallInfo::purpose, &quillCallInfo::genericParams);

@@ -18,9 +18,9 @@ struct quillContact : co::WithLine {
 
     co::TextSlot iri; // never null
     co::TextSlot displayName;
-    co::Slot<quillGenericParams> genericParams; // never null
-    co::Int qvalue;                             // thousandths
-    co::Int expires;                            // seconds
+    quill::ParamsSlot genericParams;
+    co::Int qvalue;  // thousandths
+    co::Int expires; // seconds
     co::TextSlot rc;
     co::TextSlot mp;
     co::TextSlot np;

@@ -23,7 +23,7 @@ struct quillDiversion : co::WithLine {
     co::Int limit;
     co::TextSlot privacy;
     co::TextSlot screen;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillDiversion::iri, &quillDiversion::displayName, &quillDiversion::reason,

@@ -8,8 +8,8 @@
 struct quillErrorInfo : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_ERROR_INFO;
 
-    co::TextSlot iri;                           // never null
-    co::Slot<quillGenericParams> genericParams; // never null
+    co::TextSlot iri; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() { return std::tuple(&quillErrorInfo::iri, &quillErrorInfo::genericParams); }
     static constexpr auto comparison() { return members(); }

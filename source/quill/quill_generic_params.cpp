@@ -9,6 +9,7 @@
 #include <quill/quill_generic_param_name.h>
 #include <quill/quill_generic_params.hpp>
 #include <quill/quill_skip.h>
+#include <quill/quill_skip.hpp>
 
 namespace {
 
@@ -45,11 +46,6 @@ template <> quillGenericParams *co::makeCopy(quillGenericParams const *source) {
 }
 
 QUILL_DEFINE_VALUE(GenericParams, GENERIC_PARAMS, genericParams)
-
-struct quillGenericParams *quill::noGenericParams() {
-    static constinit quillGenericParams none{{&quillGenericParams::sort, co::immortal}, {}};
-    return &none;
-}
 
 struct quillGenericParams *quillGenericParamsCreate(void) {
     return co::make<quillGenericParams>();
@@ -204,9 +200,10 @@ void quill::appendGenericParams(coString **text, quillGenericParams const *param
         if (!isAmong(entry->keyText(), without, count)) appendGenericParam(text, U";", entry->param);
 }
 
-int64_t quill::takeGenericParam(quillGenericParams **params, co::Chars text) {
+// One at the start of the text, into the collection; how many code points it is, 0 where there is none.
+static int64_t takeGenericParam(quillGenericParams **params, co::Chars text) {
     co::Chars rest = text;
-    quillGenericParam *param = readGenericParam(&rest);
+    quillGenericParam *param = quill::readGenericParam(&rest);
     if (!param) return 0;
     setTaken(params, param);
     return co::length(text) - co::length(rest);
@@ -227,9 +224,62 @@ struct quillGenericParams *quill___GenericParamsTryDecode(coChar const *chs, int
         if (semi == 0) return nullptr;
         at += semi;
         if (at == length) break; // a semicolon with nothing behind it ends the list
-        int64_t const count = quill::takeGenericParam(params.address(), co::chars(chs + at, length - at));
+        int64_t const count = takeGenericParam(params.address(), co::chars(chs + at, length - at));
         if (count == 0) return nullptr;
         at += count;
     }
     return params.take();
+}
+
+// The parameters of a value.
+
+// One for all values, which copy it when they get a parameter.
+static quillGenericParams *noGenericParams() {
+    static constinit quillGenericParams none{{&quillGenericParams::sort, co::immortal}, {}};
+    return &none;
+}
+
+quillGenericParams *quill::ParamsSlot::retained() const {
+    if (params) return co::retained(params);
+    if (length == 0) return co::retained(noGenericParams());
+    quillGenericParams *read = quill___GenericParamsTryDecode(piece().data(), length);
+    CO_ASSERT(read, "genericParams"); // that it can be read was seen when the piece was taken
+    return read;
+}
+
+void quill::ParamsSlot::adopt(quillGenericParams *value) {
+    distance = length = 0;
+    if (quillGenericParams *old = std::exchange(params, value)) co::release(old);
+}
+
+int quill::ParamsSlot::compare(ParamsSlot const &other) const {
+    if (!params && !other.params && piece() == other.piece()) return 0;
+    return co::compare(co::Ref(retained()).get(), co::Ref(other.retained()).get());
+}
+
+// token [ EQUAL token ], as nearly all are: the code points of it, 0 where there is none or its value is anything else.
+static int64_t plainLength(co::Chars text) {
+    int64_t const name = quill::matched(quill::rules::token(text));
+    int64_t const equal = name ? quill::matched(quill::rules::equal(quill::from(text, name))) : 0;
+    int64_t const value = equal ? quill::matched(quill::rules::token(quill::from(text, name + equal))) : 0;
+    return equal && !value ? 0 : name + equal + value;
+}
+
+// Whether so many code points of the line are the piece now, or go on where it ends. A piece is short, since it is read
+// anew for everybody who asks.
+bool quill::ParamsSlot::takePlain(co::Chars line, co::Chars text, int64_t count) {
+    constexpr int64_t longest = 256;
+    if (params || co::length(line) > co::longestLine || length + count > longest) return false;
+    if (length == 0) distance = static_cast<uint32_t>(text.data() - base());
+    if (piece().data() + length != text.data()) return false;
+    length += static_cast<uint32_t>(count);
+    return true;
+}
+
+int64_t quill::ParamsSlot::take(co::Chars line, co::Chars text, int64_t separator) {
+    co::Chars const param = from(text, separator);
+    int64_t const plain = line.empty() || params ? 0 : plainLength(param);
+    if (plain > 0 && takePlain(line, text, separator + plain)) return plain;
+    if (!params) adopt(retained());
+    return takeGenericParam(&params, param);
 }

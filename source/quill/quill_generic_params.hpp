@@ -1,17 +1,36 @@
 // Generic parameters as the values that hold them see them.
 #pragma once
 
-#include <co/co_string.hpp>
+#include <co/co_member.hpp>
 #include <quill/quill_generic_params.h>
 
 namespace quill {
 
-// The collection without parameters, borrowed: one for all values, which copy it when they get a parameter.
-struct quillGenericParams *noGenericParams();
+// The generic parameters of a value: a collection, or a piece of the line that the value was read from, of which a
+// collection is made for whoever asks. Without either there are no parameters.
+class ParamsSlot {
+public:
+    static constexpr size_t references = 1;
 
-// Takes one generic parameter at the start of the text into the collection; returns how many code points it is, 0 where
-// there is none.
-int64_t takeGenericParam(struct quillGenericParams **params, co::Chars text);
+    struct quillGenericParams *retained() const;
+    void set(struct quillGenericParams *value) { adopt(co::retained(value)); }
+    void adopt(struct quillGenericParams *value);
+
+    // Takes one parameter at the start of the text, which goes on behind a separator; returns how many code points it is,
+    // 0 where there is none. `line` is what the value was read from and keeps, empty where it keeps none.
+    int64_t take(co::Chars line, co::Chars text, int64_t separator);
+
+    int compare(ParamsSlot const &other) const;
+
+private:
+    bool takePlain(co::Chars line, co::Chars text, int64_t count);
+    coChar const *base() const { return reinterpret_cast<coChar const *>(this); }
+    co::Chars piece() const { return {base() + distance, length}; }
+
+    struct quillGenericParams *params; // null while they are a piece, or none
+    uint32_t distance;                 // of the piece from this slot, in code points: the same in a copy
+    uint32_t length;
+};
 
 // Appends the wire text of all parameters but those of some names, which are in lower case.
 void appendGenericParams(coString **text, struct quillGenericParams const *params, co::Chars const *without = nullptr,

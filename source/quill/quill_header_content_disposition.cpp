@@ -10,9 +10,9 @@
 struct quillHeaderContentDisposition : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_CONTENT_DISPOSITION;
 
-    co::TextSlot dispositionType;               // never null, lower case
-    co::TextSlot handling;                      // lower case
-    co::Slot<quillGenericParams> genericParams; // never null
+    co::TextSlot dispositionType; // never null, lower case
+    co::TextSlot handling;        // lower case
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderContentDisposition::dispositionType, &quillHeaderContentDisposition::handling,

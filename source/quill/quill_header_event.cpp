@@ -12,7 +12,7 @@ struct quillHeaderEvent : co::WithLine {
 
     co::TextSlot eventType; // never null
     co::TextSlot id;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderEvent::eventType, &quillHeaderEvent::id, &quillHeaderEvent::genericParams);

@@ -8,8 +8,8 @@
 struct quillHeaderMinSe : coObj {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_MIN_SE;
 
-    co::Int deltaSeconds;                       // never absent
-    co::Slot<quillGenericParams> genericParams; // never null
+    co::Int deltaSeconds; // never absent
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderMinSe::deltaSeconds, &quillHeaderMinSe::genericParams);

@@ -11,8 +11,8 @@ struct quillHeaderReferredBy : co::WithLine {
 
     co::TextSlot iri; // never null
     co::TextSlot displayName;
-    co::TextSlot cid;                           // without its quotes
-    co::Slot<quillGenericParams> genericParams; // never null
+    co::TextSlot cid; // without its quotes
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderReferredBy::iri, &quillHeaderReferredBy::displayName, &quillHeaderReferredBy::cid,

@@ -14,7 +14,7 @@ struct quillHeaderReplaces : co::WithLine {
     co::TextSlot fromTag;
     co::TextSlot toTag;
     co::Flag earlyOnly;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderReplaces::callId, &quillHeaderReplaces::fromTag, &quillHeaderReplaces::toTag,

@@ -10,7 +10,7 @@ struct quillHeaderRetryAfter : coObj {
 
     co::Int deltaSeconds; // never absent
     co::Int duration;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderRetryAfter::deltaSeconds, &quillHeaderRetryAfter::duration,

@@ -9,9 +9,9 @@
 struct quillHeaderSessionExpires : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_SESSION_EXPIRES;
 
-    co::Int deltaSeconds;                       // never absent
-    co::TextSlot refresher;                     // lower case
-    co::Slot<quillGenericParams> genericParams; // never null
+    co::Int deltaSeconds;   // never absent
+    co::TextSlot refresher; // lower case
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderSessionExpires::deltaSeconds, &quillHeaderSessionExpires::refresher,

@@ -11,7 +11,7 @@ struct quillHeaderSessionId : co::WithLine {
 
     co::TextSlot localUuid; // never null
     co::TextSlot remoteUuid;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderSessionId::localUuid, &quillHeaderSessionId::remoteUuid,

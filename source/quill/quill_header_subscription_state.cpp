@@ -14,7 +14,7 @@ struct quillHeaderSubscriptionState : co::WithLine {
     co::TextSlot reason;        // lower case
     co::Int expires;
     co::Int retryAfter;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHeaderSubscriptionState::substateValue, &quillHeaderSubscriptionState::reason,

@@ -18,7 +18,7 @@ struct quillHistoryInfo : co::WithLine {
     co::TextSlot rc;
     co::TextSlot mp;
     co::TextSlot np;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillHistoryInfo::iri, &quillHistoryInfo::displayName, &quillHistoryInfo::index,

@@ -54,7 +54,7 @@ template <class T> T *makeInfo(Info *info) {
 template <class T> coString *encodeInfo(T const &value) {
     coString *text = coStringCreate();
     appendBracketedIri(&text, value.iri);
-    appendGenericParams(&text, value.genericParams.get());
+    appendGenericParams(&text, co::Ref(value.genericParams.retained()).get());
     return text;
 }
 

@@ -192,10 +192,15 @@ IntParam(co::Chars, Scanner, int64_t (*)(coChar const *, int64_t), coString *(*)
 template <class T> EnclosedParam(co::Chars, Scanner, co::TextSlot T::*) -> EnclosedParam<T>;
 template <class T> FlagParam(co::Chars, Behind, co::Flag T::*) -> FlagParam<T>;
 
+// The line that a value was read from and keeps; empty for one of a type that keeps none.
+template <class T> co::Chars keptLine(T const *value) {
+    if constexpr (std::is_base_of_v<co::WithLine, T>) return co::chars(co::lineOf(value), value->lineLength);
+    return {};
+}
+
 // *( SEMI parameter ) at the start of the text: the first row that matches takes a parameter, or else it is a generic
 // one. What is behind the last parameter.
 template <class T, class... Rows> co::Chars readParams(T *value, co::Chars rest, std::tuple<Rows...> const &lifted) {
-    value->genericParams.set(noGenericParams());
     while (!rest.empty()) {
         co::Chars text = rest;
         int64_t const separator = matched(rules::semi(text));
@@ -207,7 +212,7 @@ template <class T, class... Rows> co::Chars readParams(T *value, co::Chars rest,
             return row.name[0] == initial && (count = row.take(value, text)) > 0;
         };
         std::apply([&](auto const &...row) { static_cast<void>((isTaken(row) || ...)); }, lifted);
-        if (count == 0) count = takeGenericParam(value->genericParams.address(), text);
+        if (count == 0) count = value->genericParams.take(keptLine(value), rest, separator);
         if (count == 0) break;
         rest = from(text, count);
     }
@@ -242,7 +247,7 @@ void appendParams(coString **text, T const &value, std::tuple<Rows...> const &li
         written[count++] = row.name;
     };
     std::apply([&](auto const &...row) { (append(row), ...); }, lifted);
-    appendGenericParams(text, value.genericParams.get(), written, count);
+    appendGenericParams(text, co::Ref(value.genericParams.retained()).get(), written, count);
 }
 
 } // namespace quill

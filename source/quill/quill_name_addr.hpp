@@ -47,7 +47,6 @@ void appendNameAddr(coString **text, co::TextSlot const &displayName, co::TextSl
 template <class T> T *makeAddress(coString *iri) {
     T *value = co::make<T>();
     value->iri.set(iri);
-    value->genericParams.set(noGenericParams());
     return value;
 }
 

@@ -17,7 +17,6 @@
         CO_ASSERT_OK(ok, part);                                                                                        \
         auto *hdr = co::make<struct quillHeader##Type>();                                                              \
         hdr->part.adopt(normalize(part));                                                                              \
-        hdr->genericParams.set(quill::noGenericParams());                                                              \
         return hdr;                                                                                                    \
     }                                                                                                                  \
     static void appendValue(coString **text, struct quillHeader##Type const *hdr) {                                    \
@@ -48,7 +47,6 @@
         CO_ASSERT_OK(quillDeltaSecondsOk, deltaSeconds);                                                               \
         auto *hdr = co::make<struct quillHeader##Type>();                                                              \
         hdr->deltaSeconds.set(deltaSeconds);                                                                           \
-        hdr->genericParams.set(quill::noGenericParams());                                                              \
         return hdr;                                                                                                    \
     }                                                                                                                  \
     static void appendValue(coString **text, struct quillHeader##Type const *hdr) {                                    \

@@ -12,10 +12,10 @@
 struct quillReason : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_REASON;
 
-    co::TextSlot protocol;                      // never null
-    co::TextSlot cause;                         // digits
-    co::TextSlot text;                          // without quotes
-    co::Slot<quillGenericParams> genericParams; // never null
+    co::TextSlot protocol; // never null
+    co::TextSlot cause;    // digits
+    co::TextSlot text;     // without quotes
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillReason::protocol, &quillReason::cause, &quillReason::text, &quillReason::genericParams);
@@ -33,7 +33,6 @@ struct quillReason *quillReasonCreate(struct coString *reasonProtocol) {
     CO_ASSERT_OK(quillReasonProtocolOk, reasonProtocol);
     auto *reason = co::make<quillReason>();
     reason->protocol.set(reasonProtocol);
-    reason->genericParams.set(quill::noGenericParams());
     return reason;
 }
 

@@ -14,7 +14,7 @@ struct quillRoute : co::WithLine {
 
     co::TextSlot iri; // never null
     co::TextSlot displayName;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillRoute::iri, &quillRoute::displayName, &quillRoute::genericParams);

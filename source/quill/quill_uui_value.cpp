@@ -15,7 +15,7 @@ struct quillUuiValue : co::WithLine {
     co::TextSlot encoding; // tokens, as given
     co::TextSlot purpose;
     co::TextSlot content;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     static constexpr auto members() {
         return std::tuple(&quillUuiValue::uuiData, &quillUuiValue::encoding, &quillUuiValue::purpose,
@@ -50,7 +50,6 @@ struct quillUuiValue *quillUuiValueCreate(struct coString *uuiData) {
     ASSERT_UUI_DATA(uuiData);
     auto *uuiValue = co::make<quillUuiValue>();
     uuiValue->uuiData.set(uuiData);
-    uuiValue->genericParams.set(quill::noGenericParams());
     return uuiValue;
 }
 

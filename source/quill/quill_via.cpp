@@ -30,7 +30,7 @@ struct quillVia : co::WithLine {
     co::Flag rportEmpty; // never together with a number
     co::Int rportNumeric;
     co::TextSlot branch;
-    co::Slot<quillGenericParams> genericParams; // never null
+    quill::ParamsSlot genericParams;
 
     void setRport(bool empty, int64_t numeric) {
         rportEmpty.set(empty);
@@ -121,7 +121,6 @@ static quillVia *makeVia(quillVersion *version, coString const *transport, coStr
     via->version.set(version);
     via->transport.adopt(quillTransportNormalize(transport));
     via->host.set(host);
-    via->genericParams.set(quill::noGenericParams());
     return via;
 }
 

@@ -149,6 +149,9 @@ TEST(QuillAccept, GettersGiveReferences) {
     EXPECT_EQ(own(quillAcceptMediaType(made.get())).get(), type.get()) << "one that was set is kept";
     EXPECT_EQ(count(type.get()), 2);
     auto const generic = own(quillAcceptGenericParams(made.get()));
+    EXPECT_EQ(count(generic.get()), 1) << "parameters that were read, too";
+    quillAcceptSetGenericParams(made.address(), generic.get());
+    EXPECT_EQ(own(quillAcceptGenericParams(made.get())).get(), generic.get());
     EXPECT_EQ(count(generic.get()), 2);
     EXPECT_TRUE(quillAcceptHasMediaType(made.get()));
     EXPECT_TRUE(quillAcceptHasMediaSubtype(made.get()));

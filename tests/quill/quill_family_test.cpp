@@ -213,7 +213,7 @@ std::vector<Family> families() {
         FAMILY(
             Contact, CONTACT, "quill_contact",
             [] { return make<quillContact>("A <sip:h>;rc=1;mp=2;np=3;+sip.instance=\"<a>\""); }, CREATE_FROM(Contact),
-            ENCODE(Contact), true, LIST(1, 3, 5, 8, 10, 12, 14),
+            ENCODE(Contact), true, LIST(1, 3, 5, 9, 11, 13, 15),
             [](coObj const *obj) {
                 return std::vector{GET(Contact, Iri),        GET(Contact, DisplayName), GET(Contact, GenericParams),
                                    GET(Contact, Rc),         GET(Contact, Mp),          GET(Contact, Np),

@@ -18,21 +18,24 @@ protected:
     // A value with every part.
     co::Ref<coObj> hdr{header.decode(header.line)};
 
-    // Texts that were read stand in the line that the object keeps: here each is set, so that it is a string.
-    void setTexts() {
+    static bool isText(Part const &part) { return part.kind == Part::Kind::text; }
+    static bool mayBePiece(Part const &part) { return isText(part) || part.kind == Part::Kind::params; }
+
+    // Texts and parameters that were read stand in the line that the object keeps: here each is set, so that it is an object.
+    void setObjects() {
         for (Part const &part : header.parts)
-            if (part.kind == Part::Kind::text) part.set(hdr.address(), part.get(hdr.get()));
+            if (mayBePiece(part)) part.set(hdr.address(), part.get(hdr.get()));
     }
 
-    // Where the objects of the parts are: behind the length of the line where there are texts, which take two words.
+    // Where the objects of the parts are: behind the length of the line where there are texts. What may be a piece takes
+    // two words.
     std::vector<coObj *const *> slots(coObj const *obj) const {
-        auto const isText = [](Part const &part) { return part.kind == Part::Kind::text; };
         auto const *word = reinterpret_cast<coObj *const *>(obj + 1);
         word += std::any_of(header.parts.begin(), header.parts.end(), isText);
         std::vector<coObj *const *> found;
         for (Part const &part : header.parts) {
             if (part.isObject()) found.push_back(word);
-            word += isText(part) ? 2 : 1;
+            word += mayBePiece(part) ? 2 : 1;
         }
         return found;
     }
@@ -99,7 +102,7 @@ TEST_P(SingleHeaders, HaveTheirLineAsText) {
 }
 
 TEST_P(SingleHeaders, CopiesShareTheirParts) {
-    setTexts();
+    setObjects();
     auto const copy = own(header.createFrom(hdr.get()));
     EXPECT_NE(copy.get(), hdr.get());
     EXPECT_EQ(count(copy.get()), 1);
@@ -115,7 +118,7 @@ TEST_P(SingleHeaders, CopiesShareTheirParts) {
 }
 
 TEST_P(SingleHeaders, FreeingGivesUpPartsAndLeavesAllOnes) {
-    setTexts();
+    setObjects();
     auto const copy = own(header.createFrom(hdr.get())); // keeps the parts alive
     coObj *freed = hdr.take();
     std::vector<std::pair<coObj *, int64_t>> parts;
@@ -164,7 +167,7 @@ TEST_P(SingleHeaders, KeepWhatIsSet) {
 }
 
 TEST_P(SingleHeaders, ReferToTheObjectsThatTheyGive) {
-    setTexts();
+    setObjects();
     std::vector<int64_t> before;
     for (coObj *const *slot : slots(hdr.get())) before.push_back(count(*slot));
     for (Part const &part : header.parts) part.get(hdr.get());
