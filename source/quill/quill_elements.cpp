@@ -35,7 +35,12 @@ static Pieces *makePieces(int64_t capacity, Pieces *old) {
 
 co::Chars Elements::piece(int64_t index) const {
     Piece const &piece = index < fewPieces ? few[index] : more->all()[index - fewPieces];
-    return {base() + piece.distance, piece.length};
+    return {piece.distance > 0 ? base() + piece.distance : co::lineBehind(firstValue), piece.length};
+}
+
+void Elements::adoptOnly(coObj *value, int64_t length) {
+    firstValue = value;
+    *placeOfNext() = {0, static_cast<uint32_t>(length)};
 }
 
 Piece *Elements::placeOfNext() {

@@ -13,7 +13,8 @@ struct Pieces;
 
 // Where an element stands.
 struct Piece {
-    uint32_t distance; // from the list's member, in code points: the same in a copy
+    uint32_t
+        distance; // from the list's member, in code points: the same in a copy; 0 for the start of the first value's line
     uint32_t length;
 };
 
@@ -34,6 +35,8 @@ public:
     void adoptFirst(coObj *value) {
         if (coObj *old = std::exchange(firstValue, value)) co::release(old);
     }
+    // The same of an empty list, of which it then is the only element, a text that begins its line.
+    void adoptOnly(coObj *value, int64_t length);
 
     // The vector, to be changed. The elements are strings from then on.
     coVector **writable();

@@ -34,25 +34,25 @@ coString *textOfLines(struct quillMessageHeader const *header) {
     return coVectorToString(all.get());
 }
 
-// The value that the line which was read last begins with, when that is all of the first element; null otherwise.
-static co::Ref<coObj> tryReadFirst(Lines const &lines, ValueKind const *kind, int64_t *count) {
-    co::Ref<coObj> value(kind->make(lines.currentRoom()));
-    co::Chars const line = lines.again(co::lineBehind(value.get()));
+FirstValue tryReadFirst(Lines const &lines, ValueKind const *kind) {
+    constexpr int64_t longest = 1024; // a list of several lines keeps the first one, too
+    FirstValue first;
+    if (lines.count() == 0 || lines.firstRoom() > longest) return first;
+    first.value.reset(kind->make(lines.firstRoom()));
+    co::Chars const line = lines.first(co::lineBehind(first.value.get()));
     co::Chars rest = line;
-    bool const isRead = kind->read(value.get(), &rest);
-    *count = co::length(line) - co::length(rest);
-    return isRead && (rest.empty() || rules::comma(rest) > 0) ? std::move(value) : co::Ref<coObj>();
+    bool const isRead = kind->read(first.value.get(), &rest);
+    first.length = co::length(line) - co::length(rest);
+    first.isAlone = isRead && rest.empty() && lines.count() == 1;
+    if (!isRead || (!rest.empty() && rules::comma(rest) < 0)) first.value.reset(nullptr);
+    return first;
 }
 
-bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *kind) {
+bool readList(ListHeader *hdr, Lines &lines, Scanner element, FirstValue first) {
     coChar *room = hdr->lineLength > 0 ? co::lineBehind(hdr) : nullptr;
-    constexpr int64_t longest = 1024; // the value keeps the first line, too
-    bool const readsFirst = kind && room && hdr->lineLength <= longest;
-    co::Ref<coObj> first;
     auto const take = [&](co::Chars text) {
-        int64_t count = 0;
-        if (readsFirst && hdr->elements.count() == 0) first = tryReadFirst(lines, kind, &count);
-        if (!first || hdr->elements.count() > 0) count = measure(element, text);
+        bool const isFirst = first.value && hdr->elements.count() == 0;
+        int64_t const count = isFirst ? first.length : measure(element, text);
         if (count > 0) hdr->elements.append(upTo(text, count), room);
         return count;
     };
@@ -60,7 +60,7 @@ bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *k
         if (!readElementsOf(line, quill___SkipComma, take)) return false;
         if (room) room += line.size();
     }
-    hdr->elements.adoptFirst(first.take());
+    hdr->elements.adoptFirst(first.value.take());
     return lines.count() > 0;
 }
 

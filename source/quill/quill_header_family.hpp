@@ -81,13 +81,27 @@ struct ListHeader : co::WithLine {
     void onElement() {} // is called when an element is put in
 };
 
-// Reads the lines into a new list, which has room for them: elements as they are written, and the value of the first one
-// where its kind is given and the lines are short. False where a line is anything else.
-bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *first);
+// The value that lines begin with, when that is all of the first element; null otherwise.
+struct FirstValue {
+    co::Ref<coObj> value;
+    int64_t length = 0;   // of the element
+    bool isAlone = false; // nothing stands behind it
+};
+FirstValue tryReadFirst(Lines const &lines, ValueKind const *kind);
 
-template <class H> H *tryDecodeList(Lines &lines, Scanner element, ValueKind const *first = nullptr) {
-    co::Ref<H> hdr(co::make<H>(lines.room()));
-    return readList(hdr.get(), lines, element, first) ? hdr.take() : nullptr;
+// Reads the lines into a new list, which has room for them, with the value of the first element where that was read. False
+// where a line is anything else.
+bool readList(ListHeader *hdr, Lines &lines, Scanner element, FirstValue first);
+
+// With the value of the first element where its kind is given. When that is all there is, the list has no line but its.
+template <class H> H *tryDecodeList(Lines &lines, Scanner element, ValueKind const *kind = nullptr) {
+    FirstValue first = kind ? tryReadFirst(lines, kind) : FirstValue();
+    co::Ref<H> hdr(co::make<H>(first.isAlone ? 0 : lines.room()));
+    if (first.isAlone)
+        hdr->elements.adoptOnly(first.value.take(), first.length);
+    else if (!readList(hdr.get(), lines, element, std::move(first)))
+        return nullptr;
+    return hdr.take();
 }
 
 // `normalize` gives an element as it is kept.

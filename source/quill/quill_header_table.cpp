@@ -700,22 +700,24 @@ uint32_t Lines::behind(uint32_t index) const {
     return index < lastPlace ? index + 1 : noLine;
 }
 
-bool Lines::step() {
+// The place of the next line; false when there is none.
+bool Lines::step(uint32_t *next) {
     if (place == noLine) return false;
-    current = place;
-    place = behind(place);
+    *next = std::exchange(place, behind(place));
     return true;
 }
 
 bool Lines::next(co::Chars *line) {
-    if (!step()) return false;
-    *line = view(current);
+    uint32_t next;
+    if (!step(&next)) return false;
+    *line = view(next);
     return true;
 }
 
 bool Lines::next(coChar *to, co::Chars *line) {
-    if (!step()) return false;
-    *line = copy(current, to);
+    uint32_t next;
+    if (!step(&next)) return false;
+    *line = copy(next, to);
     return true;
 }
 

@@ -130,12 +130,12 @@ public:
     // The same into memory of the caller's, so that an object reads its line where it keeps it: text that was just
     // written and is copied at once costs more than widening it.
     bool next(coChar *to, co::Chars *line);
-    co::Chars last(coChar *to) const { return copy(lastPlace, to); } // there must be one
-    co::Chars again(coChar *to) const { return copy(current, to); }  // what was the next line
-    // How many code points they hold at most: the last line, the one that was the next, and all; 0 where a slot can't
-    // point into as many.
+    co::Chars first(coChar *to) const { return copy(firstPlace, to); } // there must be one
+    co::Chars last(coChar *to) const { return copy(lastPlace, to); }
+    // How many code points they hold at most: the first line, the last one, and all; 0 where a slot can't point into as
+    // many.
+    int64_t firstRoom() const { return length(firstPlace); }
     int64_t lastRoom() const { return length(lastPlace); }
-    int64_t currentRoom() const { return length(current); }
     int64_t room() const;
 
 private:
@@ -143,7 +143,7 @@ private:
 
     Lines(HeaderSet const *set, HeaderEntry const *entry);
     void use(HeaderLines const &lines);
-    bool step(); // to the next line
+    bool step(uint32_t *next);
     uint32_t behind(uint32_t index) const;
     co::Chars view(uint32_t index);
     co::Chars copy(uint32_t index, coChar *to) const;
@@ -153,7 +153,6 @@ private:
     HeaderLines const *set = nullptr; // of a raw header, or else
     WireText const *text = nullptr;   // the received bytes
     uint32_t place = noLine;          // of the next line
-    uint32_t current = noLine;
     uint32_t firstPlace = noLine;
     uint32_t lastPlace = noLine;
     int64_t total = 0;

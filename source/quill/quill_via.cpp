@@ -13,6 +13,7 @@
 #include <quill/quill_port.h>
 #include <quill/quill_readers.hpp>
 #include <quill/quill_transport.h>
+#include <quill/quill_transport.hpp>
 #include <quill/quill_ttl.h>
 #include <quill/quill_version.h>
 #include <quill/quill_via.h>
@@ -108,10 +109,12 @@ static constinit struct coString *statics[std::size(texts)] = {};
 
 void quill___ViaStartup(void) {
     for (size_t i = 0; i < std::size(statics); i++) quill::start(&statics[i], co::makeString(texts[i]));
+    quill::startTransports();
 }
 
 void quill___ViaShutdown(void) {
     for (struct coString *&slot : statics) quill::stop(&slot);
+    quill::stopTransports();
 }
 
 // Creation.
@@ -256,6 +259,12 @@ bool takeHost(quillVia *via, quill::Reader *reader) {
     return static_cast<bool>(via->host);
 }
 
+// The line stays as it is: a list may keep no other text of it.
+void keepTransport(quillVia *via, co::Chars transport) {
+    if (coString *known = quill::knownTransport(transport)) return via->transport.set(known);
+    via->transport.adopt(quill::makeMapped<co::asciiLower>(transport));
+}
+
 // [ COLON port ]
 bool takePort(quillVia *via, quill::Reader *reader) {
     int64_t const colon = quill::rules::colon(reader->rest);
@@ -291,7 +300,7 @@ static bool readVia(quillVia *via, co::Chars *line) {
     reader.take(quill::rules::lws);
     if (reader.failed || !via->version) return false;
     if (!takeHost(via, &reader) || !takePort(via, &reader)) return false;
-    co::keepLower(via, &quillVia::transport, transport);
+    keepTransport(via, transport);
     *line = quill::readParams(via, reader.rest, lifted);
     return true;
 }

@@ -5,6 +5,7 @@
 #include <quill/quill_internal.h>
 #include <quill/quill_method.hpp>
 #include <quill/quill_module.h>
+#include <quill/quill_transport.hpp>
 #include <quill/quill_version.h>
 #include <support/text.hpp>
 
@@ -34,6 +35,8 @@ StaticString const strings[] = {
 char const *const methods[] = {"ACK",     "BYE",   "CANCEL",  "INFO",  "INVITE",   "MESSAGE",   "NOTIFY",
                                "OPTIONS", "PRACK", "PUBLISH", "REFER", "REGISTER", "SUBSCRIBE", "UPDATE"};
 
+std::u32string_view const transports[] = {U"udp", U"tcp", U"tls", U"ws", U"wss", U"sctp"};
+
 template <class T> bool isAllOnes(T const *pointer) { return reinterpret_cast<uintptr_t>(pointer) == ~uintptr_t{0}; }
 
 void expectStarted() {
@@ -51,6 +54,14 @@ void expectStarted() {
     }
     for (char const *other : {"", "I", "invite", "INVITED", "INVIT", "BYE ", "X"})
         EXPECT_EQ(quill::knownMethod(other), nullptr) << other;
+    for (std::u32string_view transport : transports) {
+        EXPECT_EQ(quill::knownTransport(transport)->view(), transport);
+        EXPECT_TRUE(co::isImmortal(quill::knownTransport(transport)));
+    }
+    EXPECT_EQ(quill::knownTransport(U"TcP"), quill::knownTransport(U"tcp"));
+    for (std::u32string const other :
+         {U"", U"u", U"ud", U"udp2", U"dtls", U"tls-sctp", U"\U00010075dp", U"\u00f5dp", U"udq", U"\U00000001udp"})
+        EXPECT_EQ(quill::knownTransport(other), nullptr);
 }
 
 void expectStopped() {
@@ -58,6 +69,7 @@ void expectStopped() {
     EXPECT_TRUE(isAllOnes(quill___VersionSip20));
     for (int i = 0; i < quill::knownFieldNameCount; i++) EXPECT_TRUE(isAllOnes(quill::fieldNameAt(i)));
     for (char const *method : methods) EXPECT_TRUE(isAllOnes(quill::knownMethod(method))) << method;
+    for (std::u32string_view transport : transports) EXPECT_TRUE(isAllOnes(quill::knownTransport(transport)));
 }
 
 // Runs first: nothing has been started in this process.
@@ -65,6 +77,7 @@ TEST(QuillModule, BeforeTheFirstStartStaticsAreNull) {
     for (auto [slot, text] : strings) EXPECT_EQ(*slot, nullptr) << text;
     EXPECT_EQ(quillVersionCreateSip20(), nullptr);
     for (char const *method : methods) EXPECT_EQ(quill::knownMethod(method), nullptr);
+    for (std::u32string_view transport : transports) EXPECT_EQ(quill::knownTransport(transport), nullptr);
 }
 
 TEST(QuillModule, StaticsLiveFromStartToStop) {
