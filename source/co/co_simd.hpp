@@ -46,7 +46,8 @@ template <class Set> struct AllBut {
 
 // What the texts that are named mostly consist of. It decides nothing: who searches looks at what follows.
 using HostportChars = RangesOf<Range{'a', 'z'}, Range{'A', 'Z'}, Range{'-', ':'}>;
-using UriChars = RangesOf<Range{'a', 'z'}, Range{'@', 'Z'}, Range{'-', ';'}, Range{'=', '='}>;
+using UriChars = RangesOf<Range{'a', 'z'}, Range{'@', 'Z'}, Range{'-', ':'}>;
+using UriWithParamsChars = RangesOf<Range{'a', 'z'}, Range{'@', 'Z'}, Range{'-', ';'}, Range{'=', '='}>;
 using TokenChars = RangesOf<Range{'_', 'z'}, Range{'A', 'Z'}, Range{'0', '9'}, Range{'-', '.'}>;
 
 } // namespace co

@@ -150,11 +150,12 @@ int64_t anySipPartLength(Chars text, coChar end) {
 // Whether a SIP URI may go on with a character that is none of the usual ones.
 bool maySipPartGoOn(coChar ch) { return ch == U',' || ch == U'?' || ch == U'%' || ch == U'#' || ch >= 128; }
 
-int64_t sipPartLength(Chars text, coChar end, bool *hasNoEscapes) {
-    auto const begin = static_cast<int64_t>(co::simd::run<co::UriChars>(text));
+// `UsualChars` is what is searched for in blocks.
+template <class UsualChars> int64_t sipPartLength(Chars text, coChar end, bool *hasNoEscapes) {
+    auto const begin = static_cast<int64_t>(co::simd::run<UsualChars>(text));
     Chars const usual(text.data(), static_cast<size_t>(runOf(isUsualInSip, text, begin)));
     if (usual.size() < text.size() && maySipPartGoOn(text[usual.size()])) return anySipPartLength(text, end);
-    if (hasNoEscapes) *hasNoEscapes = true;
+    *hasNoEscapes = true;
     return co::length(end == loc::noChar ? usual : usual.substr(0, usual.find(end)));
 }
 
@@ -168,14 +169,23 @@ int64_t sipPartLength(Chars text, coChar end, bool *hasNoEscapes) {
     return length == 0 ? 0 : scheme + length;
 }
 
+template <class UsualChars> int64_t measureIri(Chars text, coChar end, bool *hasNoEscapes) {
+    constexpr Chars sip = U"sip:"; // nearly always
+    *hasNoEscapes = false;
+    if (!text.starts_with(sip)) return anyIriLength(text, end);
+    int64_t const length = sipPartLength<UsualChars>(text.substr(sip.size()), end, hasNoEscapes);
+    return length == 0 ? 0 : co::length(sip) + length;
+}
+
 } // namespace
 
-int64_t loc::iriLength(Chars text, coChar end, bool *hasNoEscapes) {
-    constexpr Chars sip = U"sip:"; // nearly always
-    if (hasNoEscapes) *hasNoEscapes = false;
-    if (!text.starts_with(sip)) return anyIriLength(text, end);
-    int64_t const length = sipPartLength(text.substr(sip.size()), end, hasNoEscapes);
-    return length == 0 ? 0 : co::length(sip) + length;
+int64_t loc::iriLength(Chars text, coChar end) {
+    bool hasNoEscapes;
+    return measureIri<co::UriChars>(text, end, &hasNoEscapes);
+}
+
+int64_t loc::iriLengthInAddress(Chars text, coChar end, bool *hasNoEscapes) {
+    return measureIri<co::UriWithParamsChars>(text, end, hasNoEscapes);
 }
 
 int64_t loc___SkipIri(coChar const *chs, int64_t length) {

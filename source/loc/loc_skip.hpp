@@ -8,9 +8,12 @@ namespace loc {
 // What no code point equals.
 inline constexpr coChar noChar = ~coChar{0};
 
-// The IRI at the start of the text before the first `end`, which is not searched for beyond the IRI. `hasNoEscapes`, unless
-// null: whether it was seen on the way that no "%" is in it.
-int64_t iriLength(co::Chars text, coChar end = noChar, bool *hasNoEscapes = nullptr);
+// The IRI at the start of the text before the first `end`, which is not searched for beyond the IRI.
+int64_t iriLength(co::Chars text, coChar end = noChar);
+
+// The same of an address, where a SIP URI often has parameters. `hasNoEscapes`: whether it was seen on the way that no "%"
+// is in it.
+int64_t iriLengthInAddress(co::Chars text, coChar end, bool *hasNoEscapes);
 
 // The code points outside US-ASCII that may stand in an IRI's every part, and those that may stand in its query alone
 // (RFC 3987, 2.2).

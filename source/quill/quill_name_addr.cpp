@@ -16,7 +16,7 @@ int64_t takeBracketedUri(co::Chars text, Uri *uri) {
     int64_t const opening = text.starts_with(U'<') ? 1 : matched(rules::laquot(text));
     if (opening == 0) return 0;
     co::Chars const rest = from(text, opening);
-    int64_t const length = loc::iriLength(rest, loc::noChar, &uri->isPlain);
+    int64_t const length = loc::iriLengthInAddress(rest, loc::noChar, &uri->isPlain);
     uri->text = upTo(rest, length);
     int64_t const closing = length ? matched(rules::raquot(from(rest, length))) : 0;
     return closing ? opening + length + closing : 0;
@@ -51,7 +51,7 @@ int64_t measureNameAddr(co::Chars text, Bare bare, NameAddr *address) {
     }
     if (bare == Bare::refused) return 0;
     address->displayName = {};
-    int64_t const uri = loc::iriLength(text, U';', &address->uri.isPlain);
+    int64_t const uri = loc::iriLengthInAddress(text, U';', &address->uri.isPlain);
     address->uri.text = upTo(text, uri);
     return uri;
 }
