@@ -1,7 +1,7 @@
 // Members of objects, and what the free, copy and compare functions do with a type's list of them.
 //
 // A type names its members twice at most: members() in declaration order, comparison() in the order that decides. A
-// member's class says which of its words hold references; what is not a reference is plain data, absent when it is zero
+// member's class says how many of its words hold references; what is not a reference is plain data, absent when it is zero
 // unless init() says otherwise. What is common to all types is no template, and nothing that is seldom needed is written
 // out in one: the code that a message runs through has to fit into the processor's cache.
 #pragma once
@@ -44,22 +44,35 @@ private:
     T *obj;
 };
 
+// A piece of the line that an object keeps behind its members: its place from a word of the object, in code points, so
+// that it holds in a copy too.
+struct Piece {
+    uint32_t distance; // 0 for none
+    uint32_t length;
+
+    static Piece of(Chars text, void const *word) {
+        auto const distance = text.data() - static_cast<coChar const *>(word);
+        return {static_cast<uint32_t>(distance), static_cast<uint32_t>(text.size())};
+    }
+    Chars from(void const *word) const { return {static_cast<coChar const *>(word) + distance, length}; }
+};
+
 // A text: a string, or a piece of the line that the object was read from and keeps (WithLine); null or no piece for
 // absent. A string of a piece is made for whoever asks for one, so that reading makes none that nobody looks at.
 class TextSlot {
 public:
     static constexpr size_t references = 1;
 
-    Chars view() const { return string ? string->view() : piece(); }
-    explicit operator bool() const { return string || distance; }
+    Chars view() const { return string ? string->view() : piece.from(this); }
+    explicit operator bool() const { return string || piece.distance; }
     coString *retained() const {
         if (string) return co::retained(string);
-        return distance ? makeString(piece()) : nullptr;
+        return piece.distance ? makeString(piece.from(this)) : nullptr;
     }
 
     void set(coString *value) { adopt(co::retained(value)); }
     void adopt(coString *value) {
-        distance = length = 0;
+        piece = {};
         if (coString *old = std::exchange(string, value)) release(old);
     }
     void clear() { adopt(nullptr); }
@@ -67,8 +80,7 @@ public:
     // A piece of the line behind the object that this is a member of.
     void setPiece(Chars text) {
         clear();
-        distance = static_cast<uint32_t>(text.data() - base());
-        length = static_cast<uint32_t>(text.size());
+        piece = Piece::of(text, this);
     }
 
     // Of a text that nobody else has seen.
@@ -82,12 +94,8 @@ public:
     }
 
 private:
-    coChar const *base() const { return reinterpret_cast<coChar const *>(this); }
-    Chars piece() const { return {base() + distance, length}; }
-
     coString *string;
-    uint32_t distance; // of the piece from this slot, in code points, so that it holds in a copy too; 0 for none
-    uint32_t length;
+    Piece piece; // from this slot; while there is no string
 };
 
 inline constexpr int64_t longestLine = INT32_MAX; // that a slot can point into

@@ -12,9 +12,9 @@ struct Pieces : coObj {
 
     int64_t capacity;
 
-    Piece *all() { return reinterpret_cast<Piece *>(this + 1); }
+    co::Piece *all() { return reinterpret_cast<co::Piece *>(this + 1); }
     static int64_t sizeFor(int64_t capacity) {
-        return static_cast<int64_t>(sizeof(Pieces)) + capacity * static_cast<int64_t>(sizeof(Piece));
+        return static_cast<int64_t>(sizeof(Pieces)) + capacity * static_cast<int64_t>(sizeof(co::Piece));
     }
 };
 
@@ -34,8 +34,8 @@ static Pieces *makePieces(int64_t capacity, Pieces *old) {
 }
 
 co::Chars Elements::piece(int64_t index) const {
-    Piece const &piece = index < fewPieces ? few[index] : more->all()[index - fewPieces];
-    return {piece.distance > 0 ? base() + piece.distance : co::lineBehind(firstValue), piece.length};
+    co::Piece const &piece = index < fewPieces ? few[index] : more->all()[index - fewPieces];
+    return piece.distance > 0 ? piece.from(this) : co::chars(co::lineBehind(firstValue), piece.length);
 }
 
 void Elements::adoptOnly(coObj *value, int64_t length) {
@@ -43,7 +43,7 @@ void Elements::adoptOnly(coObj *value, int64_t length) {
     *placeOfNext() = {0, static_cast<uint32_t>(length)};
 }
 
-Piece *Elements::placeOfNext() {
+co::Piece *Elements::placeOfNext() {
     int64_t const index = pieceCount++;
     if (index < fewPieces) return &few[index];
     int64_t const capacity = more ? more->capacity : 0;
@@ -84,7 +84,7 @@ void Elements::append(co::Chars text, bool standsInRoom) {
     if (strings || !standsInRoom)
         co::appendTaken(writable(), co::header(co::makeString(text)));
     else
-        *placeOfNext() = {static_cast<uint32_t>(text.data() - base()), static_cast<uint32_t>(text.size())};
+        *placeOfNext() = co::Piece::of(text, this);
 }
 
 int Elements::compare(Elements const &other) const {

@@ -11,13 +11,6 @@ namespace quill {
 
 struct Pieces;
 
-// Where an element stands.
-struct Piece {
-    uint32_t
-        distance; // from the list's member, in code points: the same in a copy; 0 for the start of the first value's line
-    uint32_t length;
-};
-
 class Elements {
 public:
     static constexpr size_t references = 3;
@@ -52,16 +45,15 @@ private:
     static constexpr int64_t fewPieces = 8;
 
     bool isPiece(int64_t index) const { return !strings && index >= 0 && index < pieceCount; }
-    coChar const *base() const { return reinterpret_cast<coChar const *>(this); }
     co::Chars piece(int64_t index) const;
-    Piece *placeOfNext();
+    co::Piece *placeOfNext();
 
     // These three come first: they are the references.
     coVector *strings; // null while the elements are pieces
     coObj *firstValue;
     Pieces *more; // of many; those of a copy are the same
     int64_t pieceCount;
-    Piece few[fewPieces];
+    co::Piece few[fewPieces]; // from the list's member; at no distance what begins the line of the first value
 };
 
 } // namespace quill

@@ -241,44 +241,40 @@ static quillGenericParams *noGenericParams() {
 
 quillGenericParams *quill::ParamsSlot::retained() const {
     if (params) return co::retained(params);
-    if (length == 0) return co::retained(noGenericParams());
-    quillGenericParams *read = quill___GenericParamsTryDecode(piece().data(), length);
+    if (piece.length == 0) return co::retained(noGenericParams());
+    quillGenericParams *read = quill___GenericParamsTryDecode(piece.from(this).data(), piece.length);
     CO_ASSERT(read, "genericParams"); // that it can be read was seen when the piece was taken
     return read;
 }
 
 void quill::ParamsSlot::adopt(quillGenericParams *value) {
-    distance = length = 0;
+    piece = {};
     if (quillGenericParams *old = std::exchange(params, value)) co::release(old);
 }
 
 int quill::ParamsSlot::compare(ParamsSlot const &other) const {
-    if (!params && !other.params && piece() == other.piece()) return 0;
+    if (!params && !other.params && piece.from(this) == other.piece.from(&other)) return 0;
     return co::compare(co::Ref(retained()).get(), co::Ref(other.retained()).get());
 }
 
-// token [ EQUAL token ], as nearly all are: the code points of it, 0 where there is none or its value is anything else.
-static int64_t plainLength(co::Chars text) {
-    int64_t const name = quill::matched(quill::rules::token(text));
-    int64_t const equal = name ? quill::matched(quill::rules::equal(quill::from(text, name))) : 0;
-    int64_t const value = equal ? quill::matched(quill::rules::token(quill::from(text, name + equal))) : 0;
-    return equal && !value ? 0 : name + equal + value;
-}
+// token [ EQUAL token ], as nearly all are; none where the value is anything else.
+static constexpr auto plainParam =
+    quill::sequence(quill::rules::token, quill::given(quill::rules::equal, quill::rules::token));
 
 // Whether so many code points of the line are the piece now, or go on where it ends. A piece is short, since it is read
 // anew for everybody who asks.
 bool quill::ParamsSlot::takePlain(co::Chars line, co::Chars text, int64_t count) {
     constexpr int64_t longest = 256;
-    if (params || co::length(line) > co::longestLine || length + count > longest) return false;
-    if (length == 0) distance = static_cast<uint32_t>(text.data() - base());
-    if (piece().data() + length != text.data()) return false;
-    length += static_cast<uint32_t>(count);
+    if (params || co::length(line) > co::longestLine || piece.length + count > longest) return false;
+    coChar const *const start = piece.length > 0 ? piece.from(this).data() : text.data();
+    if (start + piece.length != text.data()) return false;
+    piece = co::Piece::of(co::chars(start, piece.length + count), this);
     return true;
 }
 
 int64_t quill::ParamsSlot::take(co::Chars line, co::Chars text, int64_t separator) {
     co::Chars const param = from(text, separator);
-    int64_t const plain = line.empty() || params ? 0 : plainLength(param);
+    int64_t const plain = line.empty() || params ? 0 : matched(plainParam(param));
     if (plain > 0 && takePlain(line, text, separator + plain)) return plain;
     if (!params) adopt(retained());
     return takeGenericParam(&params, param);

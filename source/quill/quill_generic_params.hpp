@@ -24,12 +24,9 @@ public:
 
 private:
     bool takePlain(co::Chars line, co::Chars text, int64_t count);
-    coChar const *base() const { return reinterpret_cast<coChar const *>(this); }
-    co::Chars piece() const { return {base() + distance, length}; }
 
     struct quillGenericParams *params; // null while they are a piece, or none
-    uint32_t distance;                 // of the piece from this slot, in code points: the same in a copy
-    uint32_t length;
+    co::Piece piece;                   // from this slot
 };
 
 // Appends the wire text of all parameters but those of some names, which are in lower case.
