@@ -13,7 +13,7 @@
 namespace quill {
 
 int64_t takeBracketedUri(co::Chars text, Uri *uri) {
-    int64_t const opening = text.starts_with(U'<') ? 1 : matched(rules::laquot(text));
+    int64_t const opening = matched(rules::laquot(text));
     if (opening == 0) return 0;
     co::Chars const rest = from(text, opening);
     int64_t const length = loc::iriLengthInAddress(rest, loc::noChar, &uri->isPlain);
@@ -45,7 +45,7 @@ int64_t measureNameAddr(co::Chars text, Bare bare, NameAddr *address) {
     int64_t const displayName = text.starts_with(U'<') ? 0 : measureName(text, address);
     address->displayName = upTo(text, displayName);
     co::Chars const rest = from(text, displayName);
-    if (rest.starts_with(U'<') || rules::laquot(rest) > 0) {
+    if (rules::laquot(rest) > 0) {
         int64_t const brackets = takeBracketedUri(rest, &address->uri);
         return brackets ? displayName + brackets : 0;
     }

@@ -225,7 +225,7 @@ QUILL_DEFINE_SKIP(DomainLabel, domainLabel)
 // hostname = domainlabel *( "." domainlabel ) [ "." ], in one pass: a label begins and ends with an alphanum or an escape,
 // so a dot or a hyphen may follow one of them alone, a hyphen another hyphen too. What is left open at the end, hyphens
 // but not the dot, doesn't count.
-static int64_t anyHostnameLength(Chars text, bool *isOrdinary) {
+static int64_t hostnameLength(Chars text, bool *isOrdinary) {
     constexpr size_t shortLabel = 63;
     size_t closed = 0; // behind the last label that ends well
     bool hasEscapes = false;
@@ -247,21 +247,6 @@ static int64_t anyHostnameLength(Chars text, bool *isOrdinary) {
     if (closed > 0 && closed < text.size() && text[closed] == U'.') closed++;
     if (isOrdinary) *isOrdinary = closed <= shortLabel && !hasEscapes && !hasTwoHyphens;
     return nonEmpty(static_cast<int64_t>(closed));
-}
-
-// Most are labels of alphanums alone, with dots between them.
-static int64_t hostnameLength(Chars text, bool *isOrdinary) {
-    constexpr int64_t shortLabel = 63;
-    int64_t at = span(text, isAlphanum);
-    while (at > 0 && at + 1 < co::length(text) && text[static_cast<size_t>(at)] == U'.') {
-        int64_t const label = span(from(text, at + 1), isAlphanum);
-        if (label == 0) break;
-        at += 1 + label;
-    }
-    coChar const next = at < co::length(text) ? text[static_cast<size_t>(at)] : U'\0';
-    if (at == 0 || next == U'.' || next == U'-' || next == U'%') return anyHostnameLength(text, isOrdinary);
-    if (isOrdinary) *isOrdinary = at <= shortLabel;
-    return at;
 }
 
 static constexpr auto hostname = [](Chars text) { return hostnameLength(text, nullptr); };

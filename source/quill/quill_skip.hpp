@@ -188,7 +188,12 @@ constexpr auto swsCharSws(coChar ch) {
         return standsAlone ? 1 : sequence(sws, oneOf(ch), sws)(text);
     };
 }
-constexpr auto swsChar(coChar ch) { return sequence(sws, oneOf(ch)); }
+constexpr auto swsChar(coChar ch) {
+    return [ch](Chars text) -> int64_t {
+        bool const standsFirst = !text.empty() && text[0] == ch; // as nearly always
+        return standsFirst ? 1 : sequence(sws, oneOf(ch))(text);
+    };
+}
 constexpr auto charSws(coChar ch) { return sequence(oneOf(ch), sws); }
 
 inline constexpr auto colon = swsCharSws(U':');
