@@ -76,13 +76,13 @@ void expectSameOfChars(std::u32string_view text) {
 }
 
 // Of texts of one block, and of two halves that overlap; whatever a code point's higher bits are.
-template <class Set> void expectMembersAlone(std::u32string_view members) {
+template <class Set> void expectMembersAlone(std::u32string_view members, bool orAllOthers = false) {
     for (coChar low = 0; low < 0x200; low++)
         for (coChar high :
              {0u, 0x7E00u, 0x7F00u, 0x8000u, 0xFF00u, 0x10000u, 0x10FF00u, 0x7FFF0000u, 0x80000000u, ~0x1FFu})
             for (size_t size : {size_t{7}, size_t{8}, size_t{11}, size_t{16}}) {
                 coChar const ch = high | low;
-                bool const isMember = members.find(ch) != members.npos;
+                bool const isMember = (members.find(ch) != members.npos) != orAllOthers;
                 std::u32string text(size, U'a');
                 text[5] = ch;
                 ASSERT_EQ(co::simd::run<Set>(text), isMember ? size : 5) << static_cast<uint32_t>(ch);
@@ -96,6 +96,8 @@ TEST(Simd, RunsHaveTheirMembersAlone) {
     expectMembersAlone<co::UriWithParamsChars>(alphanum + U"-./:;=@");
     expectMembersAlone<co::HostportChars>(alphanum + U"-./:");
     expectMembersAlone<co::TokenChars>(alphanum + U"-._`");
+    using Others = co::RangesOf<co::Range{'"', '"'}, co::Range{'0', '9'}>;
+    expectMembersAlone<co::AllBut<Others>>(U"\"0123456789", true);
 }
 
 TEST(Simd, RunsEndAtEachPlaceOfEachLength) {
