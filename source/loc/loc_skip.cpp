@@ -172,7 +172,7 @@ template <class UsualChars> int64_t sipPartLength(Chars text, coChar end, bool *
 template <class UsualChars> int64_t measureIri(Chars text, coChar end, bool *hasNoEscapes) {
     constexpr Chars sip = U"sip:"; // nearly always
     *hasNoEscapes = false;
-    if (!text.starts_with(sip)) return anyIriLength(text, end);
+    if (!co::equal(text.substr(0, sip.size()), sip)) return anyIriLength(text, end);
     int64_t const length = sipPartLength<UsualChars>(text.substr(sip.size()), end, hasNoEscapes);
     return length == 0 ? 0 : co::length(sip) + length;
 }

@@ -48,7 +48,7 @@ struct Reader {
     }
 };
 
-inline int64_t takeName(co::Chars text, co::Chars name) { return matched(foldedPrefix(text, name)); }
+inline int64_t takeName(co::Chars text, co::Chars name) { return matched(namePrefix(text, name)); }
 
 // name EQUAL
 inline int64_t takeNameEqual(co::Chars text, co::Chars name) {

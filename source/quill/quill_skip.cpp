@@ -230,17 +230,18 @@ static int64_t hostnameLength(Chars text, bool *isOrdinary) {
     size_t closed = 0; // behind the last label that ends well
     bool hasEscapes = false;
     bool hasTwoHyphens = false;
-    for (size_t at = 0; at < text.size(); at++) {
-        coChar const ch = text[at];
-        if (isAlphanum(ch)) {
-            closed = at + 1;
-        } else if (ch == U'-' && at > 0 && text[at - 1] != U'.') {
+    for (size_t at = 0;; at++) {
+        auto const alphanums = static_cast<size_t>(span(from(text, static_cast<int64_t>(at)), isAlphanum));
+        at += alphanums;
+        if (alphanums > 0) closed = at;
+        if (at == text.size()) break;
+        if (text[at] == U'-' && at > 0 && text[at - 1] != U'.') {
             hasTwoHyphens = hasTwoHyphens || text[at - 1] == U'-';
-        } else if (ch == U'%' && co::beginsWithEscape(from(text, static_cast<int64_t>(at)))) {
+        } else if (text[at] == U'%' && co::beginsWithEscape(from(text, static_cast<int64_t>(at)))) {
             at += 2;
             closed = at + 1;
             hasEscapes = true;
-        } else if (ch != U'.' || closed != at || at == 0) {
+        } else if (text[at] != U'.' || closed != at || at == 0) {
             break;
         }
     }

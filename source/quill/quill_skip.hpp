@@ -83,9 +83,19 @@ constexpr int64_t foldedPrefix(Chars text, Chars prefix) {
     return co::length(prefix);
 }
 
-// A name, whose letter case doesn't matter.
+// A name, which is given in lower case and matches in any. The two cases of a letter differ in one bit.
+constexpr int64_t namePrefix(Chars text, Chars name) {
+    if (name.empty() || text.size() < name.size()) return noMatch;
+    coChar difference = 0;
+    for (size_t i = 0; i < name.size(); i++) {
+        coChar const caseBit = name[i] ^ co::asciiUpper(name[i]); // none where it is no letter
+        difference |= (text[i] | caseBit) ^ name[i];
+    }
+    return difference == 0 ? co::length(name) : noMatch;
+}
+
 constexpr auto name(Chars letters) {
-    return [letters](Chars text) { return foldedPrefix(text, letters); };
+    return [letters](Chars text) { return namePrefix(text, letters); };
 }
 
 // Rules from rules
