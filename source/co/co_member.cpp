@@ -24,13 +24,4 @@ void *copyBytes(coObj const *source) {
 void retainMember(coObj const *member) { retain(member); }
 void releaseMember(coObj *member) { release(member); }
 
-void keepText(WithLine const *obj, coChar const *line, TextSlot *slot, Chars text) {
-    auto const distance = reinterpret_cast<uintptr_t>(text.data()) - reinterpret_cast<uintptr_t>(line);
-    bool const isPiece = distance <= static_cast<uintptr_t>(obj->lineLength) * sizeof(coChar);
-    if (isPiece && obj->lineLength <= longestLine)
-        slot->setPiece(text);
-    else
-        slot->adopt(makeString(text));
-}
-
 } // namespace co

@@ -79,7 +79,7 @@ public:
 
     // A piece of the line behind the object that this is a member of.
     void setPiece(Chars text) {
-        clear();
+        if (string) clear();
         piece = Piece::of(text, this);
     }
 
@@ -178,21 +178,16 @@ template <class T> T *makeWithLine(Chars *line) {
     return obj;
 }
 
-// Sets a text of an object that keeps a line, which is given: a piece of it where the text is one, else a string.
-void keepText(WithLine const *obj, coChar const *line, TextSlot *slot, Chars text);
-
-template <class T> void keep(T *obj, TextSlot T::*slot, Chars text) { keepText(obj, lineOf(obj), &(obj->*slot), text); }
-
-// The same of a text whose ASCII letters are to be lower case: a piece is changed where it stands.
-template <class T> void keepLower(T *obj, TextSlot T::*slot, Chars text) {
-    keep(obj, slot, text);
-    (obj->*slot).toAsciiLower();
-}
-
-// As keep, of a text that is known to be a piece.
-template <class T> void keepPiece(T *obj, TextSlot T::*slot, Chars piece) {
+// Sets a text of an object to a piece of the line that it keeps.
+template <class T> void keep(T *obj, TextSlot T::*slot, Chars piece) {
     if (obj->lineLength > longestLine) return (obj->*slot).adopt(makeString(piece));
     (obj->*slot).setPiece(piece);
+}
+
+// The same of a text whose ASCII letters are to be lower case: they are changed where they stand.
+template <class T> void keepLower(T *obj, TextSlot T::*slot, Chars piece) {
+    keep(obj, slot, piece);
+    (obj->*slot).toAsciiLower();
 }
 
 // A new object that shares the members of another.

@@ -147,10 +147,10 @@ struct quillGenericParam *quill::makeGenericParam(co::Chars name, int64_t valueT
     coChar *line = co::lineOf(param);
     std::transform(name.begin(), name.end(), line, co::asciiLower);
     co::simd::copy(line + name.size(), value);
-    co::keepPiece(param, &quillGenericParam::name, co::chars(line, co::length(name)));
+    co::keep(param, &quillGenericParam::name, co::chars(line, co::length(name)));
     if (valueType < 0) return param;
     param->valueType.set(valueType);
-    co::keepPiece(param, &quillGenericParam::value, co::chars(line + name.size(), co::length(value)));
+    co::keep(param, &quillGenericParam::value, co::chars(line + name.size(), co::length(value)));
     return param;
 }
 

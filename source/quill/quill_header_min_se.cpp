@@ -5,7 +5,7 @@
 #include <quill/quill_header_min_se.h>
 #include <quill/quill_params_header.hpp>
 
-struct quillHeaderMinSe : coObj {
+struct quillHeaderMinSe : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_MIN_SE;
 
     co::Int deltaSeconds; // never absent

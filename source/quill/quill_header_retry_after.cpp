@@ -5,7 +5,7 @@
 #include <quill/quill_header_retry_after.h>
 #include <quill/quill_params_header.hpp>
 
-struct quillHeaderRetryAfter : coObj {
+struct quillHeaderRetryAfter : co::WithLine {
     static constexpr auto &sort = quill___sort_QUILL_HEADER_RETRY_AFTER;
 
     co::Int deltaSeconds; // never absent
@@ -27,10 +27,9 @@ QUILL_DEFINE_SECONDS_AND_PARAMS_MEMBERS(RetryAfter, RETRY_AFTER, lifted)
 CO_DEFINE_OPTIONAL_INT_MEMBER(quillHeaderRetryAfter, hdr, Duration, duration, quillDeltaSecondsOk, duration)
 
 // The comment is for people; it is not kept.
-static struct quillHeaderRetryAfter *tryDecodeValue(co::Chars line) {
-    int64_t const deltaSeconds = quill::takeSeconds(&line);
-    if (deltaSeconds < 0) return nullptr;
+static bool readValue(quillHeaderRetryAfter *hdr, co::Chars line) {
+    if (!quill::readSeconds(hdr, &line)) return false;
     line = quill::from(line, quill::measure(quill___SkipLws, line));
     line = quill::from(line, quill::measure(quill___SkipComment, line));
-    return quill::withParams(quillHeaderRetryAfterCreate(deltaSeconds), line, lifted);
+    return quill::takeParams(hdr, line, lifted);
 }

@@ -37,12 +37,13 @@ struct coString *quill___IdentityValueEncode(struct quillIdentityValue const *id
     return text;
 }
 
+static bool readIdentityValue(quillIdentityValue *identityValue, co::Chars *line) {
+    int64_t const count = quill::takeNameAddr(identityValue, *line, quill::Bare::allowed);
+    *line = quill::from(*line, count);
+    return count > 0;
+}
+
 struct quillIdentityValue *quill___IdentityValueTryDecode(coChar const *chs, int64_t length) {
     CO_ASSERT_TEXT(chs, length);
-    quill::NameAddr address;
-    int64_t const count = quill::measureNameAddr(co::chars(chs, length), quill::Bare::allowed, &address);
-    if (count == 0 || count != length) return nullptr;
-    auto *identityValue = co::make<quillIdentityValue>();
-    quill::keepNameAddr(identityValue, address);
-    return identityValue;
+    return quill::tryReadWhole<quillIdentityValue>(co::chars(chs, length), readIdentityValue);
 }

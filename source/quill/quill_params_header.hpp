@@ -33,14 +33,13 @@
 // The value is a number of seconds.
 #define QUILL_DEFINE_SECONDS_AND_PARAMS_HEADER(Type, SORT, lifted)                                                     \
     QUILL_DEFINE_SECONDS_AND_PARAMS_MEMBERS(Type, SORT, lifted)                                                        \
-    static struct quillHeader##Type *tryDecodeValue(co::Chars line) {                                                  \
-        int64_t const deltaSeconds = quill::takeSeconds(&line);                                                        \
-        return deltaSeconds < 0 ? nullptr : quill::withParams(quillHeader##Type##Create(deltaSeconds), line, lifted);  \
+    static bool readValue(struct quillHeader##Type *hdr, co::Chars line) {                                             \
+        return quill::readSeconds(hdr, &line) && quill::takeParams(hdr, line, lifted);                                 \
     }
 
 // The same, but for decoding.
 #define QUILL_DEFINE_SECONDS_AND_PARAMS_MEMBERS(Type, SORT, lifted)                                                    \
-    QUILL_DEFINE_VALUE_HEADER(Type, SORT)                                                                              \
+    QUILL_DEFINE_LINE_HEADER(Type, SORT)                                                                               \
     CO_DEFINE_INT_MEMBER(quillHeader##Type, hdr, DeltaSeconds, deltaSeconds, quillDeltaSecondsOk, deltaSeconds)        \
     CO_DEFINE_OBJECT_MEMBER(quillHeader##Type, hdr, GenericParams, genericParams, quillGenericParams, genericParams)   \
     struct quillHeader##Type *quillHeader##Type##Create(int64_t deltaSeconds) {                                        \
@@ -56,18 +55,13 @@
 
 namespace quill {
 
-// delta-seconds at the start of the line, which then goes on behind them; -1 where there are none.
-inline int64_t takeSeconds(co::Chars *line) {
-    int64_t const count = measure(quill___SkipDeltaSeconds, *line);
-    int64_t const seconds = count ? quill___DeltaSecondsTryDecode(line->data(), count) : -1;
-    *line = from(*line, count);
-    return seconds;
-}
-
-// A new header, given here, with the parameters that make up the rest of its line; null where that is anything else.
-template <class T, class... Rows> T *withParams(T *created, co::Chars rest, std::tuple<Rows...> const &lifted) {
-    co::Ref<T> hdr(created);
-    return takeParams(hdr.get(), rest, lifted) ? hdr.take() : nullptr;
+// delta-seconds at the start of a header's line, which then goes on behind them. False where there are none.
+template <class T> bool readSeconds(T *hdr, co::Chars *line) {
+    int64_t seconds;
+    int64_t const digits = takeDecimal(*line, quillDeltaSecondsOk, &seconds);
+    *line = from(*line, digits);
+    hdr->deltaSeconds.set(seconds);
+    return digits > 0 && hdr->deltaSeconds;
 }
 
 // A parameter that is a number of seconds.

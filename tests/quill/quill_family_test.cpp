@@ -139,7 +139,7 @@ std::vector<coObj *> allMembers(coObj const *obj) {
     return members;
 }
 
-// A list's vector of strings and the value of its first element; either may be null.
+// A list's vector of strings and the many pieces of its lines; either may be null.
 std::vector<coObj *> listMembers(coObj const *obj) {
     auto *const *words = reinterpret_cast<coObj *const *>(obj + 1);
     std::vector<coObj *> members;
@@ -317,9 +317,9 @@ protected:
     // object keeps.
     bool isWithoutObjects() const {
         static std::set<std::string> const names{
-            "QUILL_HEADER_CALL_ID",     "QUILL_HEADER_CSEQ",      "QUILL_HEADER_EXPIRES", "QUILL_HEADER_MAX_FORWARDS",
-            "QUILL_HEADER_MIN_EXPIRES", "QUILL_HEADER_RACK",      "QUILL_HEADER_RSEQ",    "QUILL_HEADER_SERVER",
-            "QUILL_HEADER_TIMESTAMP",   "QUILL_HEADER_USER_AGENT"};
+            "QUILL_HEADER_CALL_ID",     "QUILL_HEADER_CSEQ",   "QUILL_HEADER_EXPIRES",   "QUILL_HEADER_MAX_FORWARDS",
+            "QUILL_HEADER_MIN_EXPIRES", "QUILL_HEADER_MIN_SE", "QUILL_HEADER_RACK",      "QUILL_HEADER_RETRY_AFTER",
+            "QUILL_HEADER_RSEQ",        "QUILL_HEADER_SERVER", "QUILL_HEADER_TIMESTAMP", "QUILL_HEADER_USER_AGENT"};
         return names.contains(family.name);
     }
     Family const &family = GetParam();

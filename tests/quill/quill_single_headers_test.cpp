@@ -27,11 +27,11 @@ protected:
             if (mayBePiece(part)) part.set(hdr.address(), part.get(hdr.get()));
     }
 
-    // Where the objects of the parts are: behind the length of the line where there are texts. What may be a piece takes
+    // Where the objects of the parts are: behind the length of the line where something may be a piece of one, which takes
     // two words.
     std::vector<coObj *const *> slots(coObj const *obj) const {
         auto const *word = reinterpret_cast<coObj *const *>(obj + 1);
-        word += std::any_of(header.parts.begin(), header.parts.end(), isText);
+        word += std::any_of(header.parts.begin(), header.parts.end(), mayBePiece);
         std::vector<coObj *const *> found;
         for (Part const &part : header.parts) {
             if (part.isObject()) found.push_back(word);
