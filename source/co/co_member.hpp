@@ -134,8 +134,10 @@ private:
 
 // What is common to the types.
 
-// A new object of the sort's size and a line, all zero behind its header.
+// A new object of the sort's size and a line, which is left to be filled; else all zero behind its header.
 void *makeZeroed(coSort const *sort, int64_t lineLength);
+// The same in memory that is there for it.
+void *makeZeroedIn(void *mem, coSort const *sort);
 // A new object of the same bytes, its line included, whose references are not counted yet.
 void *copyBytes(coObj const *source);
 void retainMember(coObj const *member);
@@ -157,12 +159,31 @@ template <class Member> void initUnlessZero(Member &member) {
     if constexpr (requires { member.init(); }) member.init();
 }
 
-// A new object of a type with members, all absent; a line is left to be filled.
-template <class T> T *make(int64_t lineLength = 0) {
-    auto *obj = static_cast<T *>(makeZeroed(&T::sort, lineLength));
+// A member may hold more than its references: onCopied() is called in a copy, whose references are counted by then,
+// onFreed() while all is whole.
+template <class Member> void notifyCopied(Member &member) {
+    if constexpr (requires { member.onCopied(); }) member.onCopied();
+}
+template <class Member> void notifyFreed(Member &member) {
+    if constexpr (requires { member.onFreed(); }) member.onFreed();
+}
+
+// All members absent, of an object that is zero behind its header.
+template <class T> T *initMembers(void *zeroed, int64_t lineLength) {
+    auto *obj = static_cast<T *>(zeroed);
     if constexpr (std::is_base_of_v<WithLine, T>) obj->lineLength = lineLength;
     std::apply([obj](auto... m) { (initUnlessZero(obj->*m), ...); }, T::members());
     return obj;
+}
+
+// A new object of a type with members, all absent; a line is left to be filled.
+template <class T> T *make(int64_t lineLength = 0) {
+    return initMembers<T>(makeZeroed(&T::sort, lineLength), lineLength);
+}
+
+// The same within the memory of another object, which has room for it and frees its members. Nobody retains it.
+template <class T> T *makeIn(void *mem, int64_t lineLength) {
+    return initMembers<T>(makeZeroedIn(mem, &T::sort), lineLength);
 }
 
 // The line of a WithLine of any type, by its sort.
@@ -197,11 +218,13 @@ template <class T> T *makeCopy(T const *source) {
         if (coObj const *member = referenceIn(word)) retainMember(member);
     };
     std::apply([&](auto... m) { (forEachReference(&(copied->*m), retainIn), ...); }, T::members());
+    std::apply([&](auto... m) { (notifyCopied(copied->*m), ...); }, T::members());
     return copied;
 }
 
 // Gives up the members and leaves the all-ones pattern in their slots.
 template <class T> void freeMembers(coObj *obj) {
+    std::apply([&](auto... m) { (notifyFreed(static_cast<T *>(obj)->*m), ...); }, T::members());
     auto const releaseIn = [](void *word) {
         coObj *const member = referenceIn(word);
         coObj *const none = released<coObj>();

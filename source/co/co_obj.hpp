@@ -135,14 +135,19 @@ template <class T> int compare(T const *a, T const *b) { return a == b ? 0 : coO
 // Memory for an object that no kept block is there for. Ends the process when there is none.
 void *allocateNewObject(int64_t size);
 
-// Memory for an object with its header set; the rest is left as it comes.
-inline void *allocateObject(int64_t size, coSort const *sort) {
-    void *mem = takeKeptBlock(size);
-    if (!mem) mem = allocateNewObject(size);
+// Sets the header of an object in memory that is there for it; the rest is left as it comes.
+inline coObj *startObject(void *mem, coSort const *sort) {
     auto *obj = static_cast<coObj *>(mem);
     obj->itsSort = sort;
     obj->count.store(1, std::memory_order_relaxed);
-    return mem;
+    return obj;
+}
+
+// The same in memory of its own.
+inline void *allocateObject(int64_t size, coSort const *sort) {
+    void *mem = takeKeptBlock(size);
+    if (!mem) mem = allocateNewObject(size);
+    return startObject(mem, sort);
 }
 
 // An owned reference, given up at the end of the scope unless taken. For codecs, which leave by many ways.

@@ -34,13 +34,12 @@ static Pieces *makePieces(int64_t capacity, Pieces *old) {
 }
 
 co::Chars Elements::piece(int64_t index) const {
-    co::Piece const &piece = index < fewPieces ? few[index] : more->all()[index - fewPieces];
-    return piece.distance > 0 ? piece.from(this) : co::chars(co::lineBehind(firstValue), piece.length);
+    return (index < fewPieces ? few[index] : more->all()[index - fewPieces]).from(this);
 }
 
-void Elements::adoptOnly(coObj *value, int64_t length) {
-    firstValue = value;
-    *placeOfNext() = {0, static_cast<uint32_t>(length)};
+void Elements::dropFirst() {
+    if (coObj const *value = first()) value->itsSort->freeFunc(const_cast<coObj *>(value));
+    firstDistance = 0;
 }
 
 co::Piece *Elements::placeOfNext() {
@@ -74,7 +73,7 @@ coVector **Elements::writable() {
     if (!strings) strings = vector();
     pieceCount = 0;
     if (Pieces *old = std::exchange(more, nullptr)) co::release(old);
-    adoptFirst(nullptr);
+    dropFirst();
     return &strings;
 }
 

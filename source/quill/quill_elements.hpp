@@ -13,7 +13,7 @@ struct Pieces;
 
 class Elements {
 public:
-    static constexpr size_t references = 3;
+    static constexpr size_t references = 2;
 
     bool arePieces() const { return pieceCount > 0; }
     int64_t count() const { return strings ? strings->length : pieceCount; }
@@ -23,13 +23,13 @@ public:
     // All of them, owned by the caller; a vector of a header's own is shared.
     coVector *vector() const;
 
-    // What the first element was read as, a value; null where it has to be read.
-    coObj *first() const { return firstValue; }
-    void adoptFirst(coObj *value) {
-        if (coObj *old = std::exchange(firstValue, value)) co::release(old);
-    }
-    // The same of an empty list, of which it then is the only element, a text that begins its line.
-    void adoptOnly(coObj *value, int64_t length);
+    // The value that the first element was read as, which stands in the room behind the header; null where it has to be
+    // read.
+    coObj const *first() const { return firstDistance ? valueAt(firstDistance) : nullptr; }
+    void setFirst(coObj const *value) { firstDistance = reinterpret_cast<char const *>(value) - place(); }
+    void onCopied() { firstDistance = 0; } // a copy reads it anew
+    void dropFirst();
+    void onFreed() { dropFirst(); }
 
     // The vector, to be changed. The elements are strings from then on.
     coVector **writable();
@@ -44,16 +44,18 @@ public:
 private:
     static constexpr int64_t fewPieces = 8;
 
+    char const *place() const { return reinterpret_cast<char const *>(this); }
+    coObj const *valueAt(int64_t distance) const { return reinterpret_cast<coObj const *>(place() + distance); }
     bool isPiece(int64_t index) const { return !strings && index >= 0 && index < pieceCount; }
     co::Chars piece(int64_t index) const;
     co::Piece *placeOfNext();
 
-    // These three come first: they are the references.
+    // These two come first: they are the references.
     coVector *strings; // null while the elements are pieces
-    coObj *firstValue;
-    Pieces *more; // of many; those of a copy are the same
+    Pieces *more;      // of many; those of a copy are the same
     int64_t pieceCount;
-    co::Piece few[fewPieces]; // from the list's member; at no distance what begins the line of the first value
+    int64_t firstDistance;    // of the value, in bytes; 0 for none
+    co::Piece few[fewPieces]; // from the list's member
 };
 
 } // namespace quill

@@ -34,25 +34,26 @@ coString *textOfLines(struct quillMessageHeader const *header) {
     return coVectorToString(all.get());
 }
 
-FirstValue tryReadFirst(Lines const &lines, ValueKind const *kind) {
-    constexpr int64_t longest = 1024; // a list of several lines keeps the first one, too
-    FirstValue first;
-    if (lines.count() == 0 || lines.firstRoom() > longest) return first;
-    first.value.reset(kind->make(lines.firstRoom()));
-    co::Chars const line = lines.first(co::lineBehind(first.value.get()));
+// The value that a line begins with, where that is a whole element: how many code points it is, 0 where it is none.
+static int64_t readFirst(Elements *elements, ValueKind const *kind, co::Chars line) {
+    constexpr size_t longest = 1024; // copies of the value have all of the line
+    if (line.size() > longest) return 0;
     co::Chars rest = line;
-    bool const isRead = kind->read(first.value.get(), &rest);
-    first.length = co::length(line) - co::length(rest);
-    first.isAlone = isRead && rest.empty() && lines.count() == 1;
-    if (!isRead || (!rest.empty() && rules::comma(rest) < 0)) first.value.reset(nullptr);
-    return first;
+    coObj *value = kind->make(line);
+    elements->setFirst(value);
+    if (kind->read(value, &rest) && (rest.empty() || rules::comma(rest) > 0))
+        return co::length(line) - co::length(rest);
+    elements->dropFirst();
+    return 0;
 }
 
-bool readList(ListHeader *hdr, Lines &lines, Scanner element, FirstValue first) {
+bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *kind) {
     coChar *room = hdr->lineLength > 0 ? co::lineBehind(hdr) : nullptr;
+    if (room && kind) room += kind->room;
     auto const take = [&](co::Chars text) {
-        bool const isFirst = first.value && hdr->elements.count() == 0;
-        int64_t const count = isFirst ? first.length : measure(element, text);
+        bool const isFirst = room && kind && hdr->elements.count() == 0;
+        int64_t count = isFirst ? readFirst(&hdr->elements, kind, text) : 0;
+        if (count == 0) count = measure(element, text);
         if (count > 0) hdr->elements.append(upTo(text, count), room);
         return count;
     };

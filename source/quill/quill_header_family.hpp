@@ -81,27 +81,15 @@ struct ListHeader : co::WithLine {
     void onElement() {} // is called when an element is put in
 };
 
-// The value that lines begin with, when that is all of the first element; null otherwise.
-struct FirstValue {
-    co::Ref<coObj> value;
-    int64_t length = 0;   // of the element
-    bool isAlone = false; // nothing stands behind it
-};
-FirstValue tryReadFirst(Lines const &lines, ValueKind const *kind);
+// Reads the lines into a new list, which has room for them, and for the value of the first element where its kind is
+// given. False where a line is anything else.
+bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *kind);
 
-// Reads the lines into a new list, which has room for them, with the value of the first element where that was read. False
-// where a line is anything else.
-bool readList(ListHeader *hdr, Lines &lines, Scanner element, FirstValue first);
-
-// With the value of the first element where its kind is given. When that is all there is, the list has no line but its.
+// With the value of the first element where its kind is given.
 template <class H> H *tryDecodeList(Lines &lines, Scanner element, ValueKind const *kind = nullptr) {
-    FirstValue first = kind ? tryReadFirst(lines, kind) : FirstValue();
-    co::Ref<H> hdr(co::make<H>(first.isAlone ? 0 : lines.room()));
-    if (first.isAlone)
-        hdr->elements.adoptOnly(first.value.take(), first.length);
-    else if (!readList(hdr.get(), lines, element, std::move(first)))
-        return nullptr;
-    return hdr.take();
+    int64_t const room = lines.room();
+    co::Ref<H> hdr(co::make<H>(room > 0 && kind ? kind->room + room : room));
+    return readList(hdr.get(), lines, element, kind) ? hdr.take() : nullptr;
 }
 
 // `normalize` gives an element as it is kept.

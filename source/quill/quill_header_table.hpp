@@ -130,11 +130,8 @@ public:
     // The same into memory of the caller's, so that an object reads its line where it keeps it: text that was just
     // written and is copied at once costs more than widening it.
     bool next(coChar *to, co::Chars *line);
-    co::Chars first(coChar *to) const { return copy(firstPlace, to); } // there must be one
     co::Chars last(coChar *to) const { return copy(lastPlace, to); }
-    // How many code points they hold at most: the first line, the last one, and all; 0 where a slot can't point into as
-    // many.
-    int64_t firstRoom() const { return length(firstPlace); }
+    // How many code points they hold at most: the last line, and all; 0 where a slot can't point into as many.
     int64_t lastRoom() const { return length(lastPlace); }
     int64_t room() const;
 
