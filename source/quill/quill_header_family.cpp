@@ -61,8 +61,15 @@ bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *k
         if (!readElementsOf(line, quill___SkipComma, take)) return false;
         if (room) room += line.size();
     }
-    hdr->elements.adoptFirst(first.value.take());
     return lines.count() > 0;
+}
+
+co::WithLine *makeWithLast(Lines const &lines, coSort const *sort, co::Chars *line) {
+    int64_t const room = lines.lastRoom();
+    auto *zeroed = static_cast<co::WithLine *>(co::makeZeroed(sort, room));
+    zeroed->lineLength = room;
+    *line = lines.last(co::lineBehind(zeroed));
+    return zeroed;
 }
 
 static void appendJoined(coString **line, co::Chars text, co::Chars delimiter) {
