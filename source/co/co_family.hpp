@@ -7,7 +7,10 @@
 #include <co/co_string.hpp>
 
 // Sort, Retain, Release, Obj, From, ToString, Compare, Equals of `struct T`, whose sort is the object `sort_`.
-#define CO_DEFINE_FAMILY(T, sort_)                                                                                     \
+#define CO_DEFINE_FAMILY(T, sort_) CO_DEFINE_FAMILY_RELEASED(T, sort_, co::release)
+
+// The same, with what gives a reference up.
+#define CO_DEFINE_FAMILY_RELEASED(T, sort_, release)                                                                   \
     struct coSort const *T##Sort(void) {                                                                               \
         return &sort_;                                                                                                 \
     }                                                                                                                  \
@@ -17,7 +20,7 @@
     }                                                                                                                  \
     void T##Release(struct T *obj) {                                                                                   \
         CO_ASSERT_SAYING("stdfunc release", obj, "obj");                                                               \
-        co::release(obj);                                                                                              \
+        release(obj);                                                                                                  \
     }                                                                                                                  \
     struct coObj *T##Obj(struct T const *obj) {                                                                        \
         return const_cast<struct T *>(obj);                                                                            \

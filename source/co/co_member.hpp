@@ -234,6 +234,16 @@ template <class T> void freeMembers(coObj *obj) {
     std::apply([&](auto... m) { (forEachReference(&(static_cast<T *>(obj)->*m), releaseIn), ...); }, T::members());
 }
 
+// Gives up a reference to an object of a type with members, of which nothing need be looked up when it was the last one.
+template <class T> void releaseOf(T *obj) {
+    int64_t const count = obj->count.load(std::memory_order_seq_cst);
+    if (count >= immortal || (count != 1 && obj->count.fetch_sub(1, std::memory_order_seq_cst) != 1)) return;
+    int64_t size = sizeof(T);
+    if constexpr (std::is_base_of_v<WithLine, T>) size += obj->lineLength * static_cast<int64_t>(sizeof(coChar));
+    freeMembers<T>(obj);
+    freeBlock(obj, size);
+}
+
 // The first difference decides.
 template <class T> int compareMembers(T const *a, T const *b) {
     int order = 0;

@@ -13,7 +13,7 @@
         &co___sort_CO_SORT,         &quill___module, "QUILL_" #SORT,                                                   \
         quill___##Type##FreeFunc,   compare,         toString,                                                         \
         sizeof(struct quill##Type), nullptr,         std::is_base_of_v<co::WithLine, struct quill##Type>};             \
-    CO_DEFINE_FAMILY(quill##Type, quill___sort_QUILL_##SORT)
+    CO_DEFINE_FAMILY_RELEASED(quill##Type, quill___sort_QUILL_##SORT, co::releaseOf)
 
 // A new object that shares the members of another.
 #define QUILL_DEFINE_CREATE_FROM(Type)                                                                                 \
