@@ -79,13 +79,6 @@ coVector **Elements::writable() {
 
 void Elements::clear() { coVectorClear(writable()); }
 
-void Elements::append(co::Chars text, bool standsInRoom) {
-    if (strings || !standsInRoom)
-        co::appendTaken(writable(), co::header(co::makeString(text)));
-    else
-        *placeOfNext() = co::Piece::of(text, this);
-}
-
 int Elements::compare(Elements const &other) const {
     int64_t const common = std::min(count(), other.count());
     for (int64_t i = 0; i < common; i++)

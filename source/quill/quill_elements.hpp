@@ -35,8 +35,8 @@ public:
     coVector **writable();
     void clear();
 
-    // Appends a text that was read: as a piece where it stands in the room behind the object, or as a string.
-    void append(co::Chars text, bool standsInRoom);
+    // Appends a text that stands in the room behind the header to a list of such.
+    void appendPiece(co::Chars text) { *placeOfNext() = co::Piece::of(text, this); }
 
     // Element by element; the shorter list of two that begin alike comes first.
     int compare(Elements const &other) const;

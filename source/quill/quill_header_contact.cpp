@@ -23,7 +23,8 @@ static int64_t measureContact(coChar const *chs, int64_t length) {
 }
 
 // Whether a star is all that the lines hold.
-static bool isStar(quill::Lines &lines) {
+static bool isStar(quill::LineSource source) {
+    quill::Lines lines(source);
     int64_t stars = 0;
     for (co::Chars line; lines.next(&line);) {
         if (line.empty()) continue;
@@ -60,10 +61,9 @@ struct quillMessageHeader *quillHeaderContactEncode(struct quillHeaderContact co
 }
 
 // A star is no list: what decodes as one need not be looked at for it.
-static quillHeaderContact *tryDecodeLines(quill::Lines &lines) {
-    if (auto *list = quill::tryDecodeList<quillHeaderContact>(lines, measureContact, &quill::contactKind)) return list;
-    lines.restart();
-    if (!isStar(lines)) return nullptr;
+static quillHeaderContact *tryDecodeLines(quill::LineSource source) {
+    if (auto *list = quill::tryDecodeList<quillHeaderContact>(source, measureContact, &quill::contactKind)) return list;
+    if (!isStar(source)) return nullptr;
     quillHeaderContact *hdr = quillHeaderContactCreate();
     hdr->starForm.set(true);
     return hdr;

@@ -17,8 +17,8 @@ struct quillMessageHeader *quillHeaderContentEncodingEncode(struct quillHeaderCo
     return quill::makeHeaderOfJoined(quill::known::ContentEncoding, codings.get(), U",");
 }
 
-static quillHeaderContentEncoding *tryDecodeLines(quill::Lines &lines) {
-    return quill::tryDecodeList<quillHeaderContentEncoding>(lines, quill___SkipContentCoding,
+static quillHeaderContentEncoding *tryDecodeLines(quill::LineSource source) {
+    return quill::tryDecodeList<quillHeaderContentEncoding>(source, quill___SkipContentCoding,
                                                             quillContentCodingNormalize);
 }
 

@@ -64,12 +64,19 @@ template <class Take> bool readElementsOf(co::Chars line, Scanner separator, Tak
     return true;
 }
 
-// The same of all lines. False also where there is none.
+// The same of all lines.
 template <class Take> bool readElements(Lines &lines, Scanner separator, Take take) {
     for (co::Chars line; lines.next(&line);)
         if (!readElementsOf(line, separator, take)) return false;
-    return lines.count() > 0;
+    return true;
 }
+
+// A header of a sort, all zero but for a line that it keeps, behind so many other code points: the last line, or the only
+// one, which pieces can point into. Null where there is no such line. Never written out where it is called: nearly all
+// headers are made here, so that it stays in the processor's cache.
+enum class Wanted { last, only };
+[[gnu::noinline]] co::WithLine *makeWithLine(coSort const *sort, LineSource source, Wanted wanted, int64_t before,
+                                             co::Chars *line);
 
 // Lists
 
@@ -81,19 +88,18 @@ struct ListHeader : co::WithLine {
     void onElement() {} // is called when an element is put in
 };
 
-// Reads the lines into a new list, which has room for them, and for the value of the first element where its kind is
-// given. False where a line is anything else.
-bool readList(ListHeader *hdr, Lines &lines, Scanner element, ValueKind const *kind);
+// A new list of the sort, whose members are absent when they are zero, of all that the lines hold, with the value of the
+// first element where its kind is given. Null where a line is anything else.
+ListHeader *tryMakeList(coSort const *sort, LineSource source, Scanner element, ValueKind const *kind);
 
-// With the value of the first element where its kind is given.
-template <class H> H *tryDecodeList(Lines &lines, Scanner element, ValueKind const *kind = nullptr) {
-    int64_t const room = lines.room();
-    co::Ref<H> hdr(co::make<H>(room > 0 && kind ? kind->room + room : room));
-    return readList(hdr.get(), lines, element, kind) ? hdr.take() : nullptr;
+template <class H> H *tryDecodeList(LineSource source, Scanner element, ValueKind const *kind = nullptr) {
+    return static_cast<H *>(tryMakeList(&H::sort, source, element, kind));
 }
 
 // `normalize` gives an element as it is kept.
-template <class H> H *tryDecodeList(Lines &lines, Scanner element, Normalizer normalize) {
+template <class H> H *tryDecodeList(LineSource source, Scanner element, Normalizer normalize) {
+    Lines lines(source);
+    if (lines.count() == 0) return nullptr;
     co::Ref<H> hdr(co::make<H>());
     auto const take = [&](co::Chars text) {
         int64_t const count = measure(element, text);
@@ -176,7 +182,9 @@ inline bool hasToken(SetHeader const *hdr, coString *taken) {
 }
 
 // `map` gives each character of a token as it is kept.
-template <class H, co::CharMap map> H *tryDecodeSet(Lines &lines, Scanner token, Scanner separator) {
+template <class H, co::CharMap map> H *tryDecodeSet(LineSource source, Scanner token, Scanner separator) {
+    Lines lines(source);
+    if (lines.count() == 0) return nullptr;
     co::Ref<H> hdr(makeSet<H>());
     auto const take = [&](co::Chars text) {
         int64_t const count = measure(token, text);
@@ -201,15 +209,11 @@ template <class H> void setEach(H **hdr, coVector const *vec, void (*set)(H **, 
 struct quillMessageHeader *makeHeaderOfJoined(int known, coVector const *texts, co::Chars delimiter);
 struct quillMessageHeader *makeHeaderOfJoined(int known, coDict const *keys, co::Chars delimiter);
 
-// A header of a sort, all zero but for the last line, which there must be, behind it. Never written out where it is
-// called: most headers are made here, so that it stays in the processor's cache.
-[[gnu::noinline]] co::WithLine *makeWithLast(Lines const &lines, coSort const *sort, co::Chars *line);
-
 // The value that the last line holds as a whole, or null.
-template <class H> H *tryReadLast(Lines &lines, bool (*read)(H *, co::Chars)) {
-    if (lines.count() == 0) return nullptr;
+template <class H> H *tryReadLast(LineSource source, bool (*read)(H *, co::Chars)) {
     co::Chars line;
-    co::WithLine *const zeroed = makeWithLast(lines, &H::sort, &line);
+    co::WithLine *const zeroed = makeWithLine(&H::sort, source, Wanted::last, 0, &line);
+    if (!zeroed) return nullptr;
     co::Ref<H> hdr(co::initMembers<H>(zeroed, zeroed->lineLength));
     return read(hdr.get(), line) ? hdr.take() : nullptr;
 }
@@ -221,7 +225,7 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
 // What every header has: its name, family, copy, comparison, text, stores and its place in messages. The shape defines
 // Encode, and what reads the lines of a raw header, or those of a message straight from its received bytes:
 //
-//     static struct quillHeader<Type> *tryDecodeLines(quill::Lines &lines);
+//     static struct quillHeader<Type> *tryDecodeLines(quill::LineSource source);
 #define QUILL_DEFINE_HEADER(Type, SORT)                                                                                \
     struct coString *quill___Cos##Type;                                                                                \
     void quill___Header##Type##Startup(void) {                                                                         \
@@ -254,17 +258,15 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
         co::Ref<struct quillMessageHeader> const header(quillHeader##Type##Encode(hdr));                               \
         quillMessageSetHeader(msg, header.get());                                                                      \
     }                                                                                                                  \
-    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines);                                              \
+    static struct quillHeader##Type *tryDecodeLines(quill::LineSource source);                                         \
     struct quillHeader##Type *quillHeader##Type##TryDecode(struct quillMessageHeader const *header) {                  \
         CO_ASSERT(quillMessageHeaderNameEquals(header, quill___Cos##Type),                                             \
                   "quillMessageHeaderNameEquals( header, quill___Cos" #Type " )");                                     \
-        quill::Lines lines(header);                                                                                    \
-        return tryDecodeLines(lines);                                                                                  \
+        return tryDecodeLines(quill::LineSource(header));                                                              \
     }                                                                                                                  \
     struct quillHeader##Type *quillHeader##Type##TryDecodeFromMessage(struct quillMessage const *msg) {                \
         CO_ASSERT_GIVEN(msg);                                                                                          \
-        quill::Lines lines(quill::headersOf(msg), quill::known::Type);                                                 \
-        return lines.count() > 0 ? tryDecodeLines(lines) : nullptr;                                                    \
+        return tryDecodeLines({quill::headersOf(msg), quill::known::Type});                                            \
     }                                                                                                                  \
     void quillHeader##Type##RemoveFromMessage(struct quillMessage **msg) {                                             \
         quillMessageDelHeader(msg, quill___Cos##Type);                                                                 \
@@ -278,7 +280,8 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     QUILL_DEFINE_HEADER(Type, SORT)                                                                                    \
     QUILL_DEFINE_VALUE_HEADER_ENCODE(Type)                                                                             \
     static struct quillHeader##Type *tryDecodeValue(co::Chars line);                                                   \
-    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
+    static struct quillHeader##Type *tryDecodeLines(quill::LineSource source) {                                        \
+        quill::Lines lines(source);                                                                                    \
         co::Chars line;                                                                                                \
         return lines.last(&line) ? tryDecodeValue(line) : nullptr;                                                     \
     }
@@ -302,8 +305,8 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
     QUILL_DEFINE_HEADER(Type, SORT)                                                                                    \
     QUILL_DEFINE_VALUE_HEADER_ENCODE(Type)                                                                             \
     static bool readValue(struct quillHeader##Type *hdr, co::Chars line);                                              \
-    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
-        return quill::tryReadLast<struct quillHeader##Type>(lines, readValue);                                         \
+    static struct quillHeader##Type *tryDecodeLines(quill::LineSource source) {                                        \
+        return quill::tryReadLast<struct quillHeader##Type>(source, readValue);                                        \
     }
 
 // A list: the struct, its creation, and what all lists have.
@@ -328,8 +331,8 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
 
 #define QUILL_DEFINE_LIST_CODEC(Type, skip)                                                                            \
     QUILL_DEFINE_LIST_ENCODE(Type)                                                                                     \
-    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
-        return quill::tryDecodeList<struct quillHeader##Type>(lines, skip);                                            \
+    static struct quillHeader##Type *tryDecodeLines(quill::LineSource source) {                                        \
+        return quill::tryDecodeList<struct quillHeader##Type>(source, skip);                                           \
     }
 
 #define QUILL_DEFINE_LIST_CLEAR(Type, Clear)                                                                           \
@@ -383,8 +386,8 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
 #define QUILL_DEFINE_READ_VALUE_LIST_HEADER(Type, SORT, Element, value, skip, kind)                                    \
     QUILL_DEFINE_LIST_OBJECT(Type, SORT)                                                                               \
     QUILL_DEFINE_LIST_ENCODE(Type)                                                                                     \
-    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
-        return quill::tryDecodeList<struct quillHeader##Type>(lines, skip, &kind);                                     \
+    static struct quillHeader##Type *tryDecodeLines(quill::LineSource source) {                                        \
+        return quill::tryDecodeList<struct quillHeader##Type>(source, skip, &kind);                                    \
     }                                                                                                                  \
     QUILL_DEFINE_LIST_CLEAR(Type, Clear##Element##s)                                                                   \
     QUILL_DEFINE_VALUE_LIST_ACCESS(Type, Element, Element, value, quill##Element##CreateFrom)
@@ -427,8 +430,8 @@ inline void appendDecimal(coString **text, int64_t value) { co::appendInt(text, 
         CO_ASSERT_GIVEN(hdr);                                                                                          \
         return quill::makeHeaderOfJoined(quill::known::Type, hdr->tokens.get(), delimiter);                            \
     }                                                                                                                  \
-    static struct quillHeader##Type *tryDecodeLines(quill::Lines &lines) {                                             \
-        return quill::tryDecodeSet<struct quillHeader##Type, map>(lines, skip, separator);                             \
+    static struct quillHeader##Type *tryDecodeLines(quill::LineSource source) {                                        \
+        return quill::tryDecodeSet<struct quillHeader##Type, map>(source, skip, separator);                            \
     }                                                                                                                  \
     QUILL_DEFINE_SET_ACCESS(Type, Token, token, map)
 

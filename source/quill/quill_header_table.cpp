@@ -638,29 +638,35 @@ coVector *HeaderTable::vector() const {
     return vector;
 }
 
-Lines::Lines(HeaderSet const *headers, HeaderEntry const *entry) : capacity(usualLength) {
+Lines::Lines(LineSource source) : capacity(usualLength) {
+    if (source.known == LineSource::noName)
+        use(static_cast<struct quillMessageHeader const *>(source.place)->lines);
+    else
+        find(*static_cast<HeaderTable const *>(source.place), source.known);
+}
+
+void Lines::find(HeaderTable const &table, int known) {
+    HeaderEntry const *entry = table.find(known);
     if (!entry) return;
-    if (entry->header) {
-        use(entry->header->lines);
-        return;
-    }
-    text = headers->text;
-    place = firstPlace = entry->first;
+    if (entry->header) return use(entry->header->lines);
+    text = table.headers->text;
+    place = entry->first;
     lastPlace = entry->last;
     total = entry->count;
 }
-
-Lines::Lines(struct quillMessageHeader const *header) : capacity(usualLength) { use(header->lines); }
 
 void Lines::use(HeaderLines const &lines) {
     set = &lines;
     total = lines.length();
     if (total == 0) return;
-    place = firstPlace = 0;
+    place = 0;
     lastPlace = static_cast<uint32_t>(total - 1);
 }
 
-Lines::~Lines() { coMemFree(heap); }
+Lines::~Lines() {
+    if (heap) [[unlikely]]
+        coMemFree(heap);
+}
 
 int64_t Lines::length(uint32_t index) const { return set ? co::length(set->view(index)) : text->lines()[index].length; }
 
@@ -690,7 +696,7 @@ void Lines::reserve(int64_t length) {
 
 int64_t Lines::room() const {
     int64_t sum = 0;
-    for (uint32_t i = firstPlace; i != noLine; i = behind(i)) sum += length(i);
+    for (uint32_t i = place; i != noLine; i = behind(i)) sum += length(i);
     return sum <= co::longestLine ? sum : 0;
 }
 

@@ -113,11 +113,25 @@ private:
     co::Slot<HeaderSet> headers; // null for none at all
 };
 
+// Where the lines of a header are: in a table, under a known name, or in a raw header.
+class LineSource {
+public:
+    LineSource(HeaderTable const &table, int knownName) : place(&table), known(knownName) {}
+    explicit LineSource(struct quillMessageHeader const *header) : place(header), known(noName) {}
+
+private:
+    friend class Lines;
+    static constexpr int noName = -1;
+
+    // In two words, so that it is handed on in registers.
+    void const *place;
+    int known; // noName for a raw header
+};
+
 // The lines of one header, read one after the other without anything being made of them that is kept.
 class Lines {
 public:
-    Lines(HeaderTable const &table, int known) : Lines(table.headers.get(), table.find(known)) {}
-    explicit Lines(struct quillMessageHeader const *header);
+    explicit Lines(LineSource source);
     Lines(Lines const &) = delete;
     ~Lines();
 
@@ -125,20 +139,19 @@ public:
     // The next line, and the last one; good until another is read. False when there is none.
     bool next(co::Chars *line);
     bool last(co::Chars *line);
-    void restart() { place = firstPlace; }
 
     // The same into memory of the caller's, so that an object reads its line where it keeps it: text that was just
     // written and is copied at once costs more than widening it.
     bool next(coChar *to, co::Chars *line);
     co::Chars last(coChar *to) const { return copy(lastPlace, to); }
-    // How many code points they hold at most: the last line, and all; 0 where a slot can't point into as many.
+    // How many code points they hold at most: the last line, and all that are left; 0 where a slot can't point into as many.
     int64_t lastRoom() const { return length(lastPlace); }
     int64_t room() const;
 
 private:
     static constexpr int64_t usualLength = 256;
 
-    Lines(HeaderSet const *set, HeaderEntry const *entry);
+    void find(HeaderTable const &table, int known);
     void use(HeaderLines const &lines);
     bool step(uint32_t *next);
     uint32_t behind(uint32_t index) const;
@@ -150,7 +163,6 @@ private:
     HeaderLines const *set = nullptr; // of a raw header, or else
     WireText const *text = nullptr;   // the received bytes
     uint32_t place = noLine;          // of the next line
-    uint32_t firstPlace = noLine;
     uint32_t lastPlace = noLine;
     int64_t total = 0;
     coChar *heap = nullptr;

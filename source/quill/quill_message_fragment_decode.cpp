@@ -123,7 +123,7 @@ template <class Text> bool isLength(Text text, int64_t *length) {
 
 // Of a value that is absent, empty or folded. True with -1 where it is absent.
 [[gnu::noinline]] bool readOtherContentLength(quillMessageFragment const *frag, int64_t *contentLength) {
-    quill::Lines lines(frag->headers, quill::contentLengthFieldName);
+    quill::Lines lines({frag->headers, quill::contentLengthFieldName});
     co::Chars line;
     return !lines.last(&line) || isLength(line, contentLength);
 }

@@ -8,9 +8,9 @@ namespace quill {
 
 struct ValueKind {
     int64_t room; // in code points
-    // Makes the value in the room before a line, which it keeps, and reads it of that, which then goes on behind it.
-    coObj *(*make)(co::Chars line);
-    bool (*read)(coObj *value, co::Chars *line);
+    // The value at the start of a line, in the room before that, which it keeps; the line then goes on behind it. Null
+    // where there is none.
+    coObj *(*tryRead)(co::Chars *line);
 };
 
 extern ValueKind const contactKind;
@@ -19,12 +19,12 @@ extern ValueKind const viaKind;
 
 template <class T, ValueReader<T> readValue> constexpr ValueKind valueKind() {
     constexpr int64_t room = sizeof(T) / sizeof(coChar);
-    return {room,
-            [](co::Chars line) {
-                void *const mem = const_cast<coChar *>(line.data()) - room;
-                return co::header(co::makeIn<T>(mem, co::length(line)));
-            },
-            [](coObj *value, co::Chars *line) { return readValue(static_cast<T *>(value), line); }};
+    return {room, [](co::Chars *line) -> coObj * {
+                T *value = co::makeIn<T>(const_cast<coChar *>(line->data()) - room, co::length(*line));
+                if (readValue(value, line)) return value;
+                co::freeMembers<T>(value);
+                return nullptr;
+            }};
 }
 
 } // namespace quill

@@ -30,6 +30,7 @@ struct ReadList {
     coObj *(*valueAt)(coObj const *, int64_t);
     RawHeader *(*encode)(coObj const *);
     void (*deleteAt)(coObj **, int64_t);
+    coObj *(*createFrom)(coObj const *);
     Texts begins, parts; // what texts are put together from
 };
 
@@ -48,6 +49,9 @@ struct ReadList {
             [](coObj **hdr, int64_t i) {                                                                               \
                 change<struct quillHeader##Type>(                                                                      \
                     hdr, [&](auto **typed) { quillHeader##Type##Del##Element##At(typed, i); });                        \
+            },                                                                                                         \
+            [](coObj const *hdr) {                                                                                     \
+                return generic(quillHeader##Type##CreateFrom(as<struct quillHeader##Type>(hdr)));                      \
             },                                                                                                         \
             __VA_ARGS__       \
     }
@@ -182,6 +186,28 @@ TEST_P(QuillReadList, ReadsWhatTheScannersRead) {
         if (HasFailure()) return;
     }
     EXPECT_GT(decoded, 2000);
+}
+
+// The value of the first element belongs to the list that read it: a copy reads its own, whichever of them lives longer.
+TEST_P(QuillReadList, CopiesReadTheFirstElementAnew) {
+    int copied = 0;
+    for (std::string const &element : list.begins) {
+        for (Texts const &lines : {Texts{element}, Texts{element + ";x=y", element}}) {
+            SCOPED_TRACE(testing::PrintToString(lines));
+            auto const elements = elementsOf(list, lines);
+            co::Ref<coObj> hdr(list.decode(rawHeader(list.field, lines).get()));
+            if (!hdr || !elements) continue;
+            copied++;
+            co::Ref<coObj> const copy(list.createFrom(hdr.get()));
+            { co::Ref<coObj> const other(list.createFrom(copy.get())); }
+            EXPECT_EQ(coObjCompare(copy.get(), hdr.get()), 0);
+            expectValue(list, copy.get(), 0, (*elements)[0]);
+            expectValue(list, hdr.get(), 0, (*elements)[0]);
+            hdr.reset(nullptr);
+            expectValue(list, copy.get(), 0, (*elements)[0]);
+        }
+    }
+    EXPECT_GT(copied, 8);
 }
 
 // Elements that were read are pieces of their lines, the first few of them kept apart from the others; those of a changed
