@@ -30,6 +30,8 @@ void *copyBytes(coObj const *source) {
     return obj;
 }
 
+void freeMemory(coObj *obj, int64_t size) { freeBlock(obj, size); }
+
 void retainMember(coObj const *member) { retain(member); }
 void releaseMember(coObj *member) { release(member); }
 

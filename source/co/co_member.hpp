@@ -139,7 +139,10 @@ void *makeZeroed(coSort const *sort, int64_t lineLength);
 // The same in memory that is there for it.
 void *makeZeroedIn(void *mem, coSort const *sort);
 // A new object of the same bytes, its line included, whose references are not counted yet.
-void *copyBytes(coObj const *source);
+[[gnu::noinline]] void *copyBytes(coObj const *source);
+// The block of an object that holds nothing any more. As the two above never written out where it is called, since every
+// type does.
+[[gnu::noinline]] void freeMemory(coObj *obj, int64_t size);
 void retainMember(coObj const *member);
 void releaseMember(coObj *member);
 
@@ -241,7 +244,7 @@ template <class T> void releaseOf(T *obj) {
     int64_t size = sizeof(T);
     if constexpr (std::is_base_of_v<WithLine, T>) size += obj->lineLength * static_cast<int64_t>(sizeof(coChar));
     freeMembers<T>(obj);
-    freeBlock(obj, size);
+    freeMemory(obj, size);
 }
 
 // The first difference decides.
