@@ -49,6 +49,7 @@ using HostportChars = RangesOf<Range{'a', 'z'}, Range{'A', 'Z'}, Range{'-', ':'}
 using UriChars = RangesOf<Range{'a', 'z'}, Range{'@', 'Z'}, Range{'-', ':'}>;
 using UriWithParamsChars = RangesOf<Range{'a', 'z'}, Range{'@', 'Z'}, Range{'-', ';'}, Range{'=', '='}>;
 using TokenChars = RangesOf<Range{'_', 'z'}, Range{'A', 'Z'}, Range{'0', '9'}, Range{'-', '.'}>;
+using AlphanumChars = RangesOf<Range{'a', 'z'}, Range{'A', 'Z'}, Range{'0', '9'}>;
 
 } // namespace co
 
@@ -121,6 +122,17 @@ template <class Members> [[gnu::noinline]] inline size_t run(std::u32string_view
     return count;
 }
 
+// How many leading characters are members or dots; 0 where a dot begins them or follows another one.
+template <class Members> [[gnu::noinline]] inline size_t dottedRun(std::u32string_view text) {
+    bool isDot = true; // as if one stood before the text
+    size_t count = 0;
+    for (; count < text.size() && (text[count] == U'.' || Members::has(text[count])); count++) {
+        if (isDot && text[count] == U'.') return 0;
+        isDot = text[count] == U'.';
+    }
+    return count;
+}
+
 // Whether a code point is in a text.
 inline bool contains(std::u32string_view text, coChar wanted) {
     for (coChar const ch : text)
@@ -162,6 +174,7 @@ inline constexpr size_t wideSize = 8; // characters that are widened or narrowed
 
 using Block = __m128i;
 using Mask = unsigned;
+inline constexpr size_t maskStep = 1; // bits for each byte
 
 inline Block load(char const *at) { return _mm_loadu_si128(reinterpret_cast<__m128i const *>(at)); }
 inline Block load(coChar const *at) { return _mm_loadu_si128(reinterpret_cast<__m128i const *>(at)); }
@@ -224,7 +237,8 @@ inline void narrowOnce(uint8_t *bytes, Block low, Block high) {
 #else
 
 using Block = uint8x16_t;
-using Mask = uint64_t; // four bits for each byte
+using Mask = uint64_t;
+inline constexpr size_t maskStep = 4; // bits for each byte
 
 inline Block load(char const *at) { return vld1q_u8(reinterpret_cast<uint8_t const *>(at)); }
 inline Block load(coChar const *at) { return vld1q_u8(reinterpret_cast<uint8_t const *>(at)); }
@@ -389,6 +403,20 @@ template <class Members> size_t run(std::u32string_view text) {
     Mask const mask = others(start, start + half);
     if (mask == 0) return text.size();
     return first(mask) < wideSize ? first(mask) : first(mask) - wideSize + half;
+}
+
+template <class Members> size_t dottedRun(std::u32string_view text) {
+    Mask before = 1; // of the last place before a block: as if a dot stood before the text
+    for (size_t at = 0; at + blockSize <= text.size(); at += blockSize) {
+        Block const bytes = narrowed(text.data() + at, text.data() + at + wideSize);
+        Block const allDots = equal(bytes, '.');
+        Mask const others = highBits(equal(either(allDots, membersOf(Members{}, bytes)), '\0'));
+        Mask const dots = highBits(allDots) & (others - 1) & ~others; // before the first of the others
+        if (dots & (dots << maskStep | before)) return 0;
+        if (others) return at + first(others);
+        before = dots >> (maskStep * (blockSize - 1));
+    }
+    return scalar::dottedRun<Members>(text);
 }
 
 inline size_t asciiRun(std::string_view text) {

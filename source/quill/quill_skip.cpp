@@ -227,6 +227,12 @@ QUILL_DEFINE_SKIP(DomainLabel, domainLabel)
 // but not the dot, doesn't count.
 static int64_t hostnameLength(Chars text, bool *isOrdinary) {
     constexpr size_t shortLabel = 63;
+    size_t const usual = co::simd::dottedRun<co::AlphanumChars>(text);
+    bool const mayGoOn = usual < text.size() && (text[usual] == U'-' || text[usual] == U'%');
+    if (usual > 0 && !mayGoOn) { // of letters and digits alone
+        if (isOrdinary) *isOrdinary = usual <= shortLabel;
+        return static_cast<int64_t>(usual);
+    }
     size_t closed = 0; // behind the last label that ends well
     bool hasEscapes = false;
     bool hasTwoHyphens = false;

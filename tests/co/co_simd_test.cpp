@@ -113,6 +113,41 @@ TEST(Simd, RunsEndAtEachPlaceOfEachLength) {
         }
 }
 
+size_t dottedRun(std::u32string_view text) {
+    Placed<coChar> const placed(1, text);
+    size_t const found = co::simd::dottedRun<co::AlphanumChars>(placed.view());
+    EXPECT_EQ(found, co::scalar::dottedRun<co::AlphanumChars>(placed.view()));
+    return found;
+}
+
+// In one block, from one block to the next, and in what is shorter than a block.
+TEST(Simd, DottedRunsHaveNoTwoDotsTogether) {
+    for (size_t size = 0; size <= 70; size++) {
+        ASSERT_EQ(dottedRun(std::u32string(size, U'9')), size);
+        for (size_t at = 0; at < size; at++) {
+            std::u32string text(size, U'a');
+            text[at] = U'.';
+            ASSERT_EQ(dottedRun(text), at > 0 ? size : 0) << size << " " << at;
+            if (at + 1 == size) continue;
+            text[at + 1] = U'.';
+            ASSERT_EQ(dottedRun(text), 0) << size << " " << at;
+            text[at + 1] = U':';
+            ASSERT_EQ(dottedRun(text), at > 0 ? at + 1 : 0) << size << " " << at;
+        }
+    }
+}
+
+TEST(Simd, DottedRunsEndBeforeAnythingElse) {
+    for (size_t size = 3; size <= 70; size++)
+        for (size_t at = 0; at + 2 < size; at++)
+            for (coChar ch : {0x0u, 0x2Cu, 0x2Du, 0x2Fu, 0x3Au, 0x5Fu, 0xAEu, 0x12Eu, 0x1002Eu, 0x8000002Eu}) {
+                std::u32string text(size, U'Z');
+                text[at] = ch;
+                text[at + 1] = text[at + 2] = U'.'; // does not count any more
+                ASSERT_EQ(dottedRun(text), at) << size << " " << static_cast<uint32_t>(ch);
+            }
+}
+
 TEST(Simd, ContainsACodePointAtEachPlaceOfEachLength) {
     for (size_t size = 0; size <= 70; size++)
         for (size_t alignment = 0; alignment < 4; alignment++) {
