@@ -217,6 +217,17 @@ inline void widenOnce(coChar *chars, char const *ascii) {
     _mm_storeu_si128(reinterpret_cast<__m128i *>(chars + 4), _mm_unpackhi_epi16(pairs, zero));
 }
 
+inline void widenBlock(coChar *chars, char const *ascii) {
+    Block const zero = _mm_setzero_si128();
+    Block const bytes = load(ascii);
+    Block const low = _mm_unpacklo_epi8(bytes, zero);
+    Block const high = _mm_unpackhi_epi8(bytes, zero);
+    store(chars, _mm_unpacklo_epi16(low, zero));
+    store(chars + 4, _mm_unpackhi_epi16(low, zero));
+    store(chars + 8, _mm_unpacklo_epi16(high, zero));
+    store(chars + 12, _mm_unpackhi_epi16(high, zero));
+}
+
 inline bool isAscii(Block fourChars) {
     Block const beyond = _mm_and_si128(fourChars, _mm_set1_epi32(~0x7F));
     return highBits(_mm_cmpeq_epi32(beyond, _mm_setzero_si128())) == 0xFFFF;
@@ -275,6 +286,11 @@ inline void widenOnce(coChar *chars, char const *ascii) {
     uint16x8_t const pairs = vmovl_u8(vld1_u8(reinterpret_cast<uint8_t const *>(ascii)));
     vst1q_u8(reinterpret_cast<uint8_t *>(chars), vreinterpretq_u8_u32(vmovl_u16(vget_low_u16(pairs))));
     vst1q_u8(reinterpret_cast<uint8_t *>(chars + 4), vreinterpretq_u8_u32(vmovl_u16(vget_high_u16(pairs))));
+}
+
+inline void widenBlock(coChar *chars, char const *ascii) {
+    widenOnce(chars, ascii);
+    widenOnce(chars + wideSize, ascii + wideSize);
 }
 
 inline bool isAscii(Block fourChars) { return vmaxvq_u32(vreinterpretq_u32_u8(fourChars)) < 0x80; }
@@ -470,11 +486,18 @@ inline void clearWords(char *words, size_t count) {
     clear(last);
 }
 
+// The last step overlaps the one before it.
 inline void widen(coChar *chars, std::string_view ascii) {
+    char const *const bytes = ascii.data();
     if (ascii.size() < wideSize) return scalar::widen(chars, ascii);
-    size_t const last = ascii.size() - wideSize;
-    for (size_t at = 0; at < last; at += wideSize) widenOnce(chars + at, ascii.data() + at);
-    widenOnce(chars + last, ascii.data() + last);
+    if (ascii.size() < blockSize) {
+        size_t const half = ascii.size() - wideSize;
+        widenOnce(chars, bytes);
+        return widenOnce(chars + half, bytes + half);
+    }
+    size_t const last = ascii.size() - blockSize;
+    for (size_t at = 0; at < last; at += blockSize) widenBlock(chars + at, bytes + at);
+    widenBlock(chars + last, bytes + last);
 }
 
 // The last step overlaps the one before it.

@@ -22,17 +22,17 @@ int64_t takeBracketedUri(co::Chars text, Uri *uri) {
     return closing ? opening + length + closing : 0;
 }
 
-// A display name as most are: one in quotes without escapes, or one token before a bracket. How many code points it is,
-// 0 where it is anything else, or none.
+// A display name as most are: one in quotes without escapes, or one token, before a bracket. How many code points it is
+// with the blanks behind it, 0 where it is anything else, or none.
 static int64_t measureUsualName(co::Chars text, co::Chars *plain) {
-    if (text.starts_with(U'"')) {
-        co::Chars const quoted = from(text, 1);
-        *plain = upTo(quoted, rules::qdtexts(quoted));
-        return from(quoted, co::length(*plain)).starts_with(U'"') ? co::length(*plain) + 2 : 0;
-    }
-    *plain = upTo(text, matched(rules::token(text)));
-    int64_t const length = co::length(*plain) + rules::sws(from(text, co::length(*plain)));
-    return !plain->empty() && from(text, length).starts_with(U'<') ? length : 0;
+    bool const isQuoted = text.starts_with(U'"');
+    co::Chars const name = from(text, isQuoted);
+    *plain = upTo(name, isQuoted ? rules::qdtexts(name) : matched(rules::token(name)));
+    co::Chars const rest = from(name, co::length(*plain));
+    if (isQuoted ? !rest.starts_with(U'"') : plain->empty()) return 0;
+    int64_t const length = co::length(*plain) + 2 * isQuoted;
+    int64_t const blanks = rules::sws(from(text, length));
+    return from(text, length + blanks).starts_with(U'<') ? length + blanks : 0;
 }
 
 static int64_t measureName(co::Chars text, NameAddr *address) {
