@@ -8,18 +8,9 @@
 
 namespace co {
 
-static void clearBehindHeader(void *obj, coSort const *sort) {
-    simd::clearWords(static_cast<char *>(obj) + sizeof(coObj), (static_cast<size_t>(sort->size) - sizeof(coObj)) / 8);
-}
-
 void *makeZeroed(coSort const *sort, int64_t lineLength) {
     void *mem = allocateObject(sort->size + lineLength * static_cast<int64_t>(sizeof(coChar)), sort);
-    clearBehindHeader(mem, sort);
-    return mem;
-}
-
-void *makeZeroedIn(void *mem, coSort const *sort) {
-    clearBehindHeader(startObject(mem, sort), sort);
+    simd::clearWords(static_cast<char *>(mem) + sizeof(coObj), (static_cast<size_t>(sort->size) - sizeof(coObj)) / 8);
     return mem;
 }
 

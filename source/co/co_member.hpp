@@ -7,6 +7,7 @@
 #pragma once
 
 #include <co/co_obj.hpp>
+#include <co/co_simd.hpp>
 #include <co/co_string.hpp>
 #include <co/co_unicode.hpp>
 #include <tuple>
@@ -136,8 +137,6 @@ private:
 
 // A new object of the sort's size and a line, which is left to be filled; else all zero behind its header.
 void *makeZeroed(coSort const *sort, int64_t lineLength);
-// The same in memory that is there for it.
-void *makeZeroedIn(void *mem, coSort const *sort);
 // A new object of the same bytes, its line included, whose references are not counted yet.
 [[gnu::noinline]] void *copyBytes(coObj const *source);
 // The block of an object that holds nothing any more. As the two above never written out where it is called, since every
@@ -186,7 +185,9 @@ template <class T> T *make(int64_t lineLength = 0) {
 
 // The same within the memory of another object, which has room for it and frees its members. Nobody retains it.
 template <class T> T *makeIn(void *mem, int64_t lineLength) {
-    return initMembers<T>(makeZeroedIn(mem, &T::sort), lineLength);
+    coObj *obj = startObject(mem, &T::sort);
+    simd::clearWords(reinterpret_cast<char *>(obj + 1), (sizeof(T) - sizeof(coObj)) / 8);
+    return initMembers<T>(obj, lineLength);
 }
 
 // The line of a WithLine of any type, by its sort.
