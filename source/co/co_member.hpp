@@ -139,8 +139,8 @@ private:
 void *makeZeroed(coSort const *sort, int64_t lineLength);
 // A new object of the same bytes, its line included, whose references are not counted yet.
 [[gnu::noinline]] void *copyBytes(coObj const *source);
-// The block of an object that holds nothing any more. As the two above never written out where it is called, since every
-// type does.
+// Frees the block of an object that holds nothing any more. Like copyBytes it is not written out where it is called,
+// since every type calls it.
 [[gnu::noinline]] void freeMemory(coObj *obj, int64_t size);
 void retainMember(coObj const *member);
 void releaseMember(coObj *member);
