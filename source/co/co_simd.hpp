@@ -421,18 +421,49 @@ template <class Members> size_t run(std::u32string_view text) {
     return first(mask) < wideSize ? first(mask) : first(mask) - wideSize + half;
 }
 
+// The places of what is neither member nor dot, and of the dots before the first of these.
+struct DottedPlaces {
+    Mask others;
+    Mask dots;
+
+    bool hasTwoDots(Mask before) const { return dots & (dots << maskStep | before); }
+    Mask last() const { return dots >> (maskStep * (blockSize - 1)); }
+};
+
+// `inOrder` puts the mask of a block into the order of the text.
+template <class Members, class Order> DottedPlaces dottedPlaces(Block bytes, Order inOrder) {
+    Block const dots = equal(bytes, '.');
+    Mask const others = inOrder(highBits(equal(either(dots, membersOf(Members{}, bytes)), '\0')));
+    return {others, inOrder(highBits(dots)) & (others - 1) & ~others};
+}
+
+// Of a text that is shorter than a block the halves overlap, of another one the last block and the one before it, which
+// has no two dots.
 template <class Members> size_t dottedRun(std::u32string_view text) {
-    Mask before = 1; // of the last place before a block: as if a dot stood before the text
-    for (size_t at = 0; at + blockSize <= text.size(); at += blockSize) {
-        Block const bytes = narrowed(text.data() + at, text.data() + at + wideSize);
-        Block const allDots = equal(bytes, '.');
-        Mask const others = highBits(equal(either(allDots, membersOf(Members{}, bytes)), '\0'));
-        Mask const dots = highBits(allDots) & (others - 1) & ~others; // before the first of the others
-        if (dots & (dots << maskStep | before)) return 0;
-        if (others) return at + first(others);
-        before = dots >> (maskStep * (blockSize - 1));
+    constexpr Mask dot = 1; // as if one stood before the text
+    if (text.size() < wideSize) return scalar::dottedRun<Members>(text);
+    coChar const *const start = text.data();
+    if (text.size() < blockSize) {
+        size_t const half = text.size() - wideSize;
+        auto const joined = [half](Mask mask) {
+            constexpr size_t halfStep = maskStep * wideSize;
+            return (mask & ((Mask{1} << halfStep) - 1)) | mask >> halfStep << (maskStep * half);
+        };
+        auto const found = dottedPlaces<Members>(narrowed(start, start + half), joined);
+        if (found.hasTwoDots(dot)) return 0;
+        return found.others ? first(found.others) : text.size();
     }
-    return scalar::dottedRun<Members>(text);
+    size_t const last = text.size() - blockSize;
+    Mask before = dot;
+    for (size_t at = 0;;) {
+        auto const same = [](Mask mask) { return mask; };
+        auto const found = dottedPlaces<Members>(narrowed(start + at, start + at + wideSize), same);
+        if (found.hasTwoDots(before)) return 0;
+        if (found.others) return at + first(found.others);
+        if (at == last) return text.size();
+        before = at + blockSize <= last ? found.last() : 0;
+        at = at + blockSize <= last ? at + blockSize : last;
+    }
 }
 
 inline size_t asciiRun(std::string_view text) {

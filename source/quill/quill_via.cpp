@@ -215,11 +215,18 @@ static void appendTransport(coString **text, co::Chars transport) {
     (*text)->length += co::length(transport);
 }
 
+// A host that isn't written as it is has to be a string first.
+static void appendHost(coString **text, co::TextSlot const &host) {
+    if (quill::isWhole(quill___SkipHost, host.view())) return co::append(text, host.view());
+    co::Ref<coString> const kept(host.retained());
+    co::Ref<coString> const written(quill___HostEncode(kept.get()));
+    co::append(text, written->view());
+}
+
 // With the blank before it.
 static void appendSentBy(coString **text, quillVia const *via) {
-    co::Ref<coString> const kept(via->host.retained());
-    co::Ref<coString> const host(quill___HostEncode(kept.get()));
-    co::append(text, {U" ", host->view()});
+    co::append(text, U" ");
+    appendHost(text, via->host);
     if (!via->port) return;
     co::append(text, U":");
     co::appendInt(text, via->port.get(), 10, 0, false, co::Case::lower);
